@@ -1,0 +1,34 @@
+# Two entry points for people: `make demo` and `make test`. Both install what
+# they need on Debian 12, configure into build/ and build before they run.
+BUILD    ?= build
+JOBS     ?= $(shell nproc)
+CMAKE_ARGS ?=
+
+.PHONY: all deps configure build test demo asan tsan clean
+
+all: build
+
+deps:
+	@scripts/install-deps.sh
+
+configure: deps
+	@cmake -S . -B $(BUILD) -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo $(CMAKE_ARGS) >/dev/null
+
+build: configure
+	@cmake --build $(BUILD) -j $(JOBS)
+
+test: build
+	@ctest --test-dir $(BUILD) --output-on-failure -j $(JOBS)
+
+demo: build
+	@scripts/demo.sh $(BUILD)
+
+# Sanitizer runs of the whole suite, each in its own build tree.
+asan:
+	@$(MAKE) --no-print-directory test BUILD=build-asan CMAKE_ARGS="-DVEX_SANITIZE=address -DVEX_BUILD_BENCH=OFF"
+
+tsan:
+	@$(MAKE) --no-print-directory test BUILD=build-tsan CMAKE_ARGS="-DVEX_SANITIZE=thread -DVEX_BUILD_BENCH=OFF"
+
+clean:
+	rm -rf build build-asan build-tsan
