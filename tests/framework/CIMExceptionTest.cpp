@@ -33,15 +33,5 @@ TEST(CIMExceptionMessage, PercentInClientTextIsNotInterpreted) {
     EXPECT_EQ(error.getErrMessage(), "VEX_%s%n%d :: Incorrect Class Name requested");
 }
 
-TEST(CIMExceptionMessage, CopiesKeepCodeAndText) {
-    try {
-        throw CIMException(CIM_ERR_ADAPTER_FAILURE, "Failed to Create FrameworkFacade Instance");
-    } catch (const CIMException& caught) {
-        const CIMException copy = caught;
-        EXPECT_EQ(copy.getErrCode(), 24u);
-        EXPECT_EQ(copy.getErrMessage(), "Failed to Create FrameworkFacade Instance");
-    }
-}
-
 }  // namespace
 }  // namespace vex::cim::fwf::test

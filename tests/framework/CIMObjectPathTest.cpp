@@ -70,18 +70,5 @@ TEST(CIMObjectPathEquality, NestedReferenceKeysIgnoreTheirHostsToo) {
     EXPECT_TRUE(a == b);
 }
 
-TEST(CIMObjectPathFields, ClearEmptiesEverything) {
-    CIMObjectPath path = volumePath("h", "0_1");
-    path.clearObjectPath();
-    EXPECT_EQ(path.getHostName(), "");
-    EXPECT_EQ(path.getNameSpace(), "");
-    EXPECT_EQ(path.getClassName(), "");
-    EXPECT_TRUE(path.getKeyBindings().empty());
-
-    path.setKeyBindings({stringKey("InstanceID", "1")});
-    ASSERT_EQ(path.getKeyBindings().size(), 1u);
-    EXPECT_EQ(path.getKeyBindings()[0].getName(), "InstanceID");
-}
-
 }  // namespace
 }  // namespace vex::cim::fwf::test

@@ -58,15 +58,6 @@ TEST(CIMPropertySlots, GettersOfOtherSlotsAreEmptyNotConverted) {
     EXPECT_TRUE(odd.getUint32Value().isEmpty());
 }
 
-TEST(CIMPropertySlots, DefaultPropertyIsEmptyBoolean) {
-    const CIMProperty none;
-    EXPECT_EQ(none.getName(), "");
-    EXPECT_EQ(none.getType(), CIM_BOOLEAN);
-    EXPECT_FALSE(none.isKey());
-    EXPECT_FALSE(none.isViewKey());
-    EXPECT_TRUE(none.getBoolValue().isEmpty());
-}
-
 TEST(CIMPropertySlots, OnlyTheValuesSecondFlagTravelsIntoTheProperty) {
     const CIMProperty both("P", CIMValue<unsigned int>(5u, true, true), true, CIM_UINT32, true);
     const CIMValue<unsigned int> read = both.getUint32Value();
