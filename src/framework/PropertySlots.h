@@ -8,9 +8,13 @@
 //   - the first filled slot lives inline (40 bytes with its flags);
 //   - any further slot goes to a small heap vector that almost never exists.
 //
+// On x86-64 a property is 88 bytes: name 32, tag and flags 8, slot 40,
+// pointer to further slots 8.
+//
 // A slot holding exactly one element of a non-compound type keeps it inline
 // (One<T>), so a scalar string or number costs no extra heap block. Arrays,
-// and every reference or embedded instance, use a std::vector.
+// and every reference or embedded instance, use a std::vector (booleans one
+// byte each, see BoolArray).
 //
 // A slot that was never filled reads as an empty value; a filled slot with no
 // elements (an empty array) stays filled so that its flags survive.
