@@ -1,0 +1,83 @@
+// AbstractAssociationProviderPlugin: the base of association classes. Nothing
+// about associations is stored: every request enumerates the two end classes
+// through the facade (each served by its own plug-in) and pairs them with the
+// concrete plug-in's MatchInstances rule over the full cross product.
+//
+// An association instance carries, in this order: the reference to the first
+// end (named by getAntecedentPropertyName), the reference to the second end
+// (getDependentPropertyName), both of type reference and flagged as keys, then
+// the extra properties MatchInstances appended.
+//
+// An end may name several classes as a comma list ("VEX_A,VEX_B", read with
+// CommonFunctions::getStringAt).
+#ifndef VEX_FRAMEWORK_ABSTRACTASSOCIATIONPROVIDERPLUGIN_H
+#define VEX_FRAMEWORK_ABSTRACTASSOCIATIONPROVIDERPLUGIN_H
+
+#include <string>
+#include <vector>
+
+#include "framework/AbstractInstanceProviderPlugin.h"
+
+namespace vex::cim::fwf {
+
+class AbstractAssociationProviderPlugin : public virtual AbstractInstanceProviderPlugin {
+public:
+    void getCIMInstance(CIMObjectPath& path, std::vector<CIMInstance>& out) override;
+    void enumerateInstances(CIMObjectPath& classPath, std::vector<CIMInstance>& out,
+                            bool flag) override;
+    void enumerateInstanceNames(CIMObjectPath& classPath,
+                                std::vector<CIMObjectPath>& out) override;
+    void associators(CIMObjectPath& source, std::string& assocClass,
+                     std::vector<CIMInstance>& out, std::string& resultClass, std::string& role,
+                     std::string& resultRole, const char** propertyList) override;
+    void associatorNames(CIMObjectPath& source, std::string& assocClass,
+                         std::vector<CIMObjectPath>& out, std::string& resultClass,
+                         std::string& role, std::string& resultRole) override;
+    void references(CIMObjectPath& source, const std::string& resultClass,
+                    std::vector<CIMInstance>& out, const std::string& role) override;
+    void referencesNames(CIMObjectPath& source, const std::string& resultClass,
+                         const std::string& role, std::vector<CIMObjectPath>& out) override;
+
+    // Association instances are built, not read: the hooks have nothing to do.
+    void getKeyAttributes(CIMInstance& source, std::vector<CIMProperty>& keys) override;
+    void getNonKeyAttributes(CIMInstance& source, std::vector<CIMProperty>& others) override;
+    void getRepositoryObjects(CIMObjectPath& path, std::vector<CIMInstance>& out) override;
+
+    // What a concrete association supplies.
+    // True when the two end instances are linked; may append further
+    // properties of the association instance to `extra`.
+    virtual bool MatchInstances(CIMInstance& antecedent, CIMInstance& dependent,
+                                std::vector<CIMProperty>& extra) = 0;
+    virtual std::string getAntecedent() = 0;  // CIM class name(s) of the first end
+    virtual std::string getDependent() = 0;   // CIM class name(s) of the second end
+    virtual std::string getAntecedentPropertyName() = 0;  // "Antecedent", "GroupComponent"...
+    virtual std::string getDependentPropertyName() = 0;   // "Dependent", "PartComponent"...
+
+    // The association instances that refer to `source`. A non-empty role must
+    // name (in any case) the reference that points to the source; a non-empty
+    // result role the other one. A result class that names one of the ends
+    // (see getResultantClass) keeps only instances whose other reference
+    // points to a class of that end; one that names neither end filters
+    // nothing (superclass names such as "CIM_ComputerSystem" are the object
+    // manager's to resolve).
+    virtual void associationHelper(CIMObjectPath& source, const std::string& resultClass,
+                                   std::string& role, const std::string& resultRole,
+                                   std::vector<CIMInstance>& out);
+
+    // Which end class a result-class filter names: the first class, of the
+    // first end and then of the second, whose lowered name contains the
+    // lowered filter is written to `out`. False (out untouched) when none does.
+    virtual bool getResultantClass(const std::string& resultClass, std::string& out);
+
+protected:
+    // Builds one association instance from the two end paths and the extras,
+    // with the host, namespace and class of `assocPath`.
+    CIMInstance makeAssociationInstance(const CIMObjectPath& assocPath,
+                                        const CIMObjectPath& antecedent,
+                                        const CIMObjectPath& dependent,
+                                        std::vector<CIMProperty>& extra);
+};
+
+}  // namespace vex::cim::fwf
+
+#endif
