@@ -9,7 +9,8 @@
 // the extra properties MatchInstances appended.
 //
 // An end may name several classes as a comma list ("VEX_A,VEX_B", read with
-// CommonFunctions::getStringAt).
+// CommonFunctions::getStringAt); an end class without a registered plug-in
+// contributes no instances (a class that is not served yet links nothing).
 #ifndef VEX_FRAMEWORK_ABSTRACTASSOCIATIONPROVIDERPLUGIN_H
 #define VEX_FRAMEWORK_ABSTRACTASSOCIATIONPROVIDERPLUGIN_H
 
@@ -45,7 +46,9 @@ public:
 
     // What a concrete association supplies.
     // True when the two end instances are linked; may append further
-    // properties of the association instance to `extra`.
+    // properties of the association instance to `extra`. The references are
+    // taken from the two instances after the call, so a rule may also point an
+    // end to another namespace (setPath) where its class is served.
     virtual bool MatchInstances(CIMInstance& antecedent, CIMInstance& dependent,
                                 std::vector<CIMProperty>& extra) = 0;
     virtual std::string getAntecedent() = 0;  // CIM class name(s) of the first end
@@ -53,16 +56,21 @@ public:
     virtual std::string getAntecedentPropertyName() = 0;  // "Antecedent", "GroupComponent"...
     virtual std::string getDependentPropertyName() = 0;   // "Dependent", "PartComponent"...
 
-    // The association instances that refer to `source`. A non-empty role must
-    // name (in any case) the reference that points to the source; a non-empty
-    // result role the other one. A result class that names one of the ends
-    // (see getResultantClass) keeps only instances whose other reference
-    // points to a class of that end; one that names neither end filters
-    // nothing (superclass names such as "CIM_ComputerSystem" are the object
-    // manager's to resolve).
-    virtual void associationHelper(CIMObjectPath& source, const std::string& resultClass,
-                                   std::string& role, const std::string& resultRole,
-                                   std::vector<CIMInstance>& out);
+    // The association instances that refer to `source`. `assocClass` is the
+    // CIM class of this association as the request names it (for references
+    // the request's result class is the association class); it becomes the
+    // class of the association instances. A non-empty role must name, in any
+    // case, the reference that points to the source; a non-empty result role
+    // the other one. A non-empty `resultClass` that names one of the ends (see
+    // getResultantClass) keeps only instances whose other reference points to
+    // a class containing it; one that names neither end filters nothing
+    // (superclass names such as "CIM_ComputerSystem" are the object manager's
+    // to resolve).
+    virtual std::vector<CIMInstance> associationHelper(CIMObjectPath& source,
+                                                       const std::string& assocClass,
+                                                       std::string& role,
+                                                       const std::string& resultRole,
+                                                       std::string& resultClass);
 
     // Which end class a result-class filter names: the first class, of the
     // first end and then of the second, whose lowered name contains the

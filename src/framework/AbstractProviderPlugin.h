@@ -17,6 +17,9 @@
 
 namespace vex::cim::fwf {
 
+// Return value of invokeMethod for a method the class does not offer.
+inline constexpr unsigned int CIM_METHOD_NOT_SUPPORTED = 7;
+
 class AbstractProviderPlugin {
 public:
     virtual ~AbstractProviderPlugin() = default;

@@ -81,6 +81,7 @@ public:
     bool notify(CIMInstance instance);
 
 private:
+    friend struct FrameworkFacadeCleanUp;
     FrameworkFacade();
 
     // Plug-in of `className` for operation `operation`; throws code 1 without

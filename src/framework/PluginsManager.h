@@ -40,6 +40,7 @@ public:
     PluginsManager& operator=(const PluginsManager&) = delete;
 
 private:
+    friend struct PluginsManagerCleanUp;
     PluginsManager();
 
     struct Entry {
