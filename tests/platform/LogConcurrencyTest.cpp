@@ -2,7 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <map>
-#include <regex>
+#include <cstdio>
 #include <string>
 #include <thread>
 #include <vector>
@@ -39,20 +39,32 @@ TEST_F(LogConcurrencyTest, ConcurrentWritersProduceWholeLinesInEachThreadsOrder)
         thread.join();
     }
 
-    std::regex line(R"(^[0-9/]+ [0-9:]{8}\[SMIS------(.{8})\](\t:LOG_DEBUG::|  :LOG_INFO :: )writer ([0-9]+) line ([0-9]+)$)");
+    const std::string logWord = "\t:LOG_DEBUG::";
+    const std::string traceWord = "  :LOG_INFO :: ";
     std::map<int, int> nextLine;
     int inits = 0;
     auto lines = logLines();
     for (const std::string &text : lines) {
-        if (text.find("######OSLIB Init Suucesazful#####") != std::string::npos) {
+        LogLine line;
+        ASSERT_TRUE(parseLogLine(text, &line)) << text;
+        EXPECT_EQ(line.tag, "SMIS------");
+        if (line.rest == traceWord + "######OSLIB Init Suucesazful#####") {
             ++inits;
             continue;
         }
-        std::smatch m;
-        ASSERT_TRUE(std::regex_match(text, m, line)) << text;
-        int writer = std::stoi(m[3]);
-        EXPECT_EQ(m[1].str(), ids[writer]);
-        EXPECT_EQ(std::stoi(m[4]), nextLine[writer]++) << text;
+        bool isLog = line.rest.compare(0, logWord.size(), logWord) == 0;
+        bool isTrace = line.rest.compare(0, traceWord.size(), traceWord) == 0;
+        ASSERT_TRUE(isLog || isTrace) << text;
+        std::string body = line.rest.substr(isLog ? logWord.size() : traceWord.size());
+        int writer = -1;
+        int number = -1;
+        int consumed = 0;
+        ASSERT_EQ(std::sscanf(body.c_str(), "writer %d line %d%n", &writer, &number, &consumed), 2) << text;
+        ASSERT_EQ(static_cast<size_t>(consumed), body.size()) << text;
+        ASSERT_TRUE(writer >= 0 && writer < kThreads) << text;
+        EXPECT_EQ(isLog, number % 2 == 0) << text;
+        EXPECT_EQ(line.threadId, ids[writer]);
+        EXPECT_EQ(number, nextLine[writer]++) << text;
     }
     EXPECT_EQ(inits, 1);
     EXPECT_EQ(lines.size(), static_cast<size_t>(kThreads * kLinesPerThread + 1));

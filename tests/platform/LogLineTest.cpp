@@ -2,7 +2,6 @@
 #include <gtest/gtest.h>
 
 #include <ctime>
-#include <regex>
 #include <string>
 
 #include "platform/PlatformTestSupport.h"
@@ -11,11 +10,6 @@
 namespace vex::platform::test {
 namespace {
 
-// month/day/year (no padding) and hh:mm:ss, then the header.
-const std::string kTime = R"(([1-9]|1[0-2])/([1-9]|[12][0-9]|3[01])/([0-9]{4}) ([0-9]{2}):([0-9]{2}):([0-9]{2}))";
-
-std::string escaped(const std::string &text) { return std::regex_replace(text, std::regex(R"([.^$|()\[\]{}*+?\\])"), R"(\$&)"); }
-
 std::tm localNow() {
     std::time_t now = std::time(nullptr);
     std::tm tm{};
@@ -23,8 +17,18 @@ std::tm localNow() {
     return tm;
 }
 
-bool sameDay(const std::smatch &m, const std::tm &tm) {
-    return std::stoi(m[1]) == tm.tm_mon + 1 && std::stoi(m[2]) == tm.tm_mday && std::stoi(m[3]) == tm.tm_year + 1900;
+bool sameDay(const LogLine &line, const std::tm &tm) {
+    return line.month == tm.tm_mon + 1 && line.day == tm.tm_mday && line.year == tm.tm_year + 1900;
+}
+
+// The single line of the SMIS log, parsed.
+LogLine onlyLine(const std::vector<std::string> &lines) {
+    LogLine line;
+    EXPECT_EQ(lines.size(), 1u);
+    if (!lines.empty()) {
+        EXPECT_TRUE(parseLogLine(lines[0], &line)) << lines[0];
+    }
+    return line;
 }
 
 using LogLineTest = LogTest;
@@ -36,13 +40,11 @@ TEST_F(LogLineTest, LogLineCarriesTimeComponentThreadIdLevelAndMessage) {
     ASSERT_EQ(TkzLogMsg(TKZ_LOG_ERROR, "disk %d of %s", 3, "ctrl"), 0);
     std::tm after = localNow();
 
-    auto lines = logLines();
-    ASSERT_EQ(lines.size(), 1u);
-    std::smatch m;
-    std::regex line("^" + kTime + R"(\[SMIS------(.{8})\]\t:LOG_ERROR::disk 3 of ctrl$)");
-    ASSERT_TRUE(std::regex_match(lines[0], m, line)) << lines[0];
-    EXPECT_EQ(m[7].str(), logThreadId());
-    EXPECT_TRUE(sameDay(m, before) || sameDay(m, after)) << lines[0];
+    LogLine line = onlyLine(logLines());
+    EXPECT_EQ(line.tag, "SMIS------");
+    EXPECT_EQ(line.threadId, logThreadId());
+    EXPECT_EQ(line.rest, "\t:LOG_ERROR::disk 3 of ctrl");
+    EXPECT_TRUE(sameDay(line, before) || sameDay(line, after));
 }
 
 TEST_F(LogLineTest, EveryLevelIsWrittenWithItsWordAndUnknownLevelsAsInfo) {
@@ -57,13 +59,14 @@ TEST_F(LogLineTest, EveryLevelIsWrittenWithItsWordAndUnknownLevelsAsInfo) {
 
     auto lines = logLines();
     ASSERT_EQ(lines.size(), 11u);
-    std::string prefix = "[SMIS------" + logThreadId() + "]\t";
     for (int level = 0; level <= 9; ++level) {
-        std::string tail = prefix + expected[level] + "level " + std::to_string(level);
-        EXPECT_NE(lines[level].find(tail), std::string::npos) << lines[level];
-        EXPECT_EQ(lines[level].size(), lines[level].find(tail) + tail.size()) << lines[level];
+        LogLine line;
+        ASSERT_TRUE(parseLogLine(lines[level], &line)) << lines[level];
+        EXPECT_EQ(line.rest, std::string("\t") + expected[level] + "level " + std::to_string(level));
     }
-    EXPECT_NE(lines[10].find("]\t:LOG_INFO::negative"), std::string::npos) << lines[10];
+    LogLine negative;
+    ASSERT_TRUE(parseLogLine(lines[10], &negative));
+    EXPECT_EQ(negative.rest, "\t:LOG_INFO::negative");
 }
 
 TEST_F(LogLineTest, TraceLineUsesTwoBlanksAndSpacedInfoWordAndNeverFormatsItsText) {
@@ -71,22 +74,18 @@ TEST_F(LogLineTest, TraceLineUsesTwoBlanksAndSpacedInfoWordAndNeverFormatsItsTex
     switchLogOn();
     ASSERT_EQ(TkzTrace("Entering %s %n %d 100%"), 0);
 
-    auto lines = logLines();
-    ASSERT_EQ(lines.size(), 1u);
-    std::regex line("^" + kTime + R"(\[SMIS------)" + escaped(logThreadId()) +
-                    R"(\]  :LOG_INFO :: Entering %s %n %d 100%$)");
-    EXPECT_TRUE(std::regex_match(lines[0], line)) << lines[0];
+    LogLine line = onlyLine(logLines());
+    EXPECT_EQ(line.tag, "SMIS------");
+    EXPECT_EQ(line.threadId, logThreadId());
+    EXPECT_EQ(line.rest, "  :LOG_INFO :: Entering %s %n %d 100%");
 }
 
 TEST_F(LogLineTest, InitTracesItsSuccessWhenTheFileIsThere) {
     switchLogOn();
     ASSERT_EQ(TkzLogInit("SMIS"), 0);
 
-    auto lines = logLines();
-    ASSERT_EQ(lines.size(), 1u);
-    std::string tail = "]  :LOG_INFO :: ######OSLIB Init Suucesazful#####";
-    ASSERT_GE(lines[0].size(), tail.size());
-    EXPECT_EQ(lines[0].substr(lines[0].size() - tail.size()), tail);
+    LogLine line = onlyLine(logLines());
+    EXPECT_EQ(line.rest, "  :LOG_INFO :: ######OSLIB Init Suucesazful#####");
 }
 
 TEST_F(LogLineTest, MessageLongerThanTheBufferIsCutTo511Characters) {
@@ -98,11 +97,12 @@ TEST_F(LogLineTest, MessageLongerThanTheBufferIsCutTo511Characters) {
 
     auto lines = logLines();
     ASSERT_EQ(lines.size(), 2u);
-    std::string word = ":LOG_INFO::";
-    size_t start = lines[0].find(word);
-    ASSERT_NE(start, std::string::npos);
-    EXPECT_EQ(lines[0].substr(start + word.size()), std::string(511, 'x'));
-    EXPECT_NE(lines[1].find(":LOG_INFO::next"), std::string::npos);
+    LogLine cut;
+    LogLine next;
+    ASSERT_TRUE(parseLogLine(lines[0], &cut));
+    ASSERT_TRUE(parseLogLine(lines[1], &next));
+    EXPECT_EQ(cut.rest, "\t:LOG_INFO::" + std::string(511, 'x'));
+    EXPECT_EQ(next.rest, "\t:LOG_INFO::next");
 }
 
 // The header pads the component with dashes to ten characters, never more.
@@ -119,10 +119,9 @@ TEST_P(LogHeaderTest, ComponentAndDashesFillTenCharacters) {
     switchLogOn(c.component);
     ASSERT_EQ(TkzLogMsg(TKZ_LOG_WARN, "w"), 0);
 
-    auto lines = logLines(c.component);
-    ASSERT_EQ(lines.size(), 1u);
-    std::string header = std::string("[") + c.padded + logThreadId() + "]\t:LOG_WARN::w";
-    EXPECT_NE(lines[0].find(header), std::string::npos) << lines[0];
+    LogLine line = onlyLine(logLines(c.component));
+    EXPECT_EQ(line.tag, c.padded);
+    EXPECT_EQ(line.rest, "\t:LOG_WARN::w");
 }
 
 INSTANTIATE_TEST_SUITE_P(Components, LogHeaderTest,

@@ -51,6 +51,52 @@ std::string logThreadId() {
     return id;
 }
 
+namespace {
+
+bool isClock(const std::string &clock) {
+    if (clock.size() != 8 || clock[2] != ':' || clock[5] != ':') {
+        return false;
+    }
+    for (size_t i : {0, 1, 3, 4, 6, 7}) {
+        if (clock[i] < '0' || clock[i] > '9') {
+            return false;
+        }
+    }
+    return true;
+}
+
+// "m/d/yyyy hh:mm:ss" with month and day unpadded.
+bool parseStamp(const std::string &stamp, LogLine *line) {
+    char clock[9] = {};
+    int consumed = 0;
+    if (std::sscanf(stamp.c_str(), "%d/%d/%d %8[0-9:]%n", &line->month, &line->day, &line->year, clock,
+                    &consumed) != 4 ||
+        static_cast<size_t>(consumed) != stamp.size()) {
+        return false;
+    }
+    line->clock = clock;
+    bool padded = stamp[0] == '0' || stamp[stamp.find('/') + 1] == '0';
+    return !padded && line->month >= 1 && line->month <= 12 && line->day >= 1 && line->day <= 31 &&
+           line->year >= 1000 && line->year <= 9999 && isClock(line->clock);
+}
+
+}  // namespace
+
+bool parseLogLine(const std::string &text, LogLine *line) {
+    size_t open = text.find('[');
+    size_t close = text.find(']', open);
+    if (open == std::string::npos || close == std::string::npos || close - open - 1 < 8) {
+        return false;
+    }
+    if (!parseStamp(text.substr(0, open), line)) {
+        return false;
+    }
+    line->tag = text.substr(open + 1, close - open - 1 - 8);
+    line->threadId = text.substr(close - 8, 8);
+    line->rest = text.substr(close + 1);
+    return true;
+}
+
 void LogTest::SetUp() {
     setLogDirectory(dir_.path());
     resetLogStateForTesting();

@@ -30,6 +30,20 @@ std::vector<std::string> readLines(const std::string &path);
 // The calling thread's id as the log writes it ("%8X").
 std::string logThreadId();
 
+// One line of the log: "m/d/yyyy hh:mm:ss[<tag><thread id>]<rest>", where the
+// tag is the component with its dashes and the thread id has 8 characters.
+struct LogLine {
+    int month = 0;
+    int day = 0;
+    int year = 0;
+    std::string clock;
+    std::string tag;
+    std::string threadId;
+    std::string rest;
+};
+// False when the line does not have that shape (padded month or day included).
+bool parseLogLine(const std::string &text, LogLine *line);
+
 // Each test starts with logging not initialised and the log directory in a
 // scratch directory; everything is put back afterwards.
 class LogTest : public ::testing::Test {
