@@ -38,6 +38,7 @@ json saveLd(const ControllerRec& c, const LdRec& ld) {
 
 // Finds the drive a saved reference names, by address or by enclosure slot.
 DriveRec* findRef(ControllerRec& c, const json& r, bool bySlot) {
+    bySlot = bySlot && r.value("enclosure", -1) >= 0;  // drives outside enclosures go by address
     for (DriveRec& d : c.drives) {
         if (bySlot ? (d.hd.enclosureIndex == r.value("enclosure", -2) && d.hd.slot == r.value("slot", -2))
                    : (d.channel == r.value("channel", ~0u) && d.device == r.value("device", ~0u)))
