@@ -1,7 +1,6 @@
 // Many threads initialising and logging at once: one init, whole lines.
 #include <gtest/gtest.h>
 
-#include <map>
 #include <cstdio>
 #include <string>
 #include <thread>
@@ -14,7 +13,7 @@ namespace vex::platform::test {
 namespace {
 
 constexpr int kThreads = 8;
-constexpr int kLinesPerThread = 150;
+constexpr int kLines = 150;  // per thread, logs and traces alternating
 
 using LogConcurrencyTest = LogTest;
 
@@ -26,12 +25,9 @@ TEST_F(LogConcurrencyTest, ConcurrentWritersProduceWholeLinesInEachThreadsOrder)
         threads.emplace_back([t, &ids] {
             ids[t] = logThreadId();
             TkzLogInit("SMIS");
-            for (int i = 0; i < kLinesPerThread; ++i) {
-                if (i % 2 == 0) {
-                    TkzLogMsg(TKZ_LOG_DEBUG, "writer %d line %d", t, i);
-                } else {
-                    TkzTrace(("writer " + std::to_string(t) + " line " + std::to_string(i)).c_str());
-                }
+            for (int i = 0; i < kLines; ++i) {
+                std::string text = "writer " + std::to_string(t) + " line " + std::to_string(i);
+                i % 2 == 0 ? TkzLogMsg(TKZ_LOG_DEBUG, "%s", text.c_str()) : TkzTrace(text.c_str());
             }
         });
     }
@@ -39,35 +35,26 @@ TEST_F(LogConcurrencyTest, ConcurrentWritersProduceWholeLinesInEachThreadsOrder)
         thread.join();
     }
 
-    const std::string logWord = "\t:LOG_DEBUG::";
-    const std::string traceWord = "  :LOG_INFO :: ";
-    std::map<int, int> nextLine;
+    auto lines = parsedLogLines();
+    ASSERT_EQ(lines.size(), static_cast<size_t>(kThreads * kLines + 1));
+    std::vector<int> next(kThreads, 0);
     int inits = 0;
-    auto lines = logLines();
-    for (const std::string &text : lines) {
-        LogLine line;
-        ASSERT_TRUE(parseLogLine(text, &line)) << text;
-        EXPECT_EQ(line.tag, "SMIS------");
-        if (line.rest == traceWord + "######OSLIB Init Suucesazful#####") {
+    for (const LogLine &line : lines) {
+        if (line.rest == "  :LOG_INFO :: ######OSLIB Init Suucesazful#####") {
             ++inits;
             continue;
         }
-        bool isLog = line.rest.compare(0, logWord.size(), logWord) == 0;
-        bool isTrace = line.rest.compare(0, traceWord.size(), traceWord) == 0;
-        ASSERT_TRUE(isLog || isTrace) << text;
-        std::string body = line.rest.substr(isLog ? logWord.size() : traceWord.size());
-        int writer = -1;
-        int number = -1;
-        int consumed = 0;
-        ASSERT_EQ(std::sscanf(body.c_str(), "writer %d line %d%n", &writer, &number, &consumed), 2) << text;
-        ASSERT_EQ(static_cast<size_t>(consumed), body.size()) << text;
-        ASSERT_TRUE(writer >= 0 && writer < kThreads) << text;
-        EXPECT_EQ(isLog, number % 2 == 0) << text;
+        int writer = -1, number = -1, used = 0;
+        size_t body = line.rest.find("writer ");
+        ASSERT_NE(body, std::string::npos) << line.rest;
+        ASSERT_EQ(std::sscanf(line.rest.c_str() + body, "writer %d line %d%n", &writer, &number, &used), 2);
+        ASSERT_TRUE(writer >= 0 && writer < kThreads && body + used == line.rest.size()) << line.rest;
+        const char *word = number % 2 == 0 ? "\t:LOG_DEBUG::" : "  :LOG_INFO :: ";
+        EXPECT_EQ(line.rest.substr(0, body), word);
         EXPECT_EQ(line.threadId, ids[writer]);
-        EXPECT_EQ(number, nextLine[writer]++) << text;
+        EXPECT_EQ(number, next[writer]++) << line.rest;
     }
     EXPECT_EQ(inits, 1);
-    EXPECT_EQ(lines.size(), static_cast<size_t>(kThreads * kLinesPerThread + 1));
 }
 
 }  // namespace

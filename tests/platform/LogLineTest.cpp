@@ -10,25 +10,10 @@
 namespace vex::platform::test {
 namespace {
 
-std::tm localNow() {
-    std::time_t now = std::time(nullptr);
+bool sameDay(const LogLine &line, std::time_t when) {
     std::tm tm{};
-    localtime_r(&now, &tm);
-    return tm;
-}
-
-bool sameDay(const LogLine &line, const std::tm &tm) {
+    localtime_r(&when, &tm);
     return line.month == tm.tm_mon + 1 && line.day == tm.tm_mday && line.year == tm.tm_year + 1900;
-}
-
-// The single line of the SMIS log, parsed.
-LogLine onlyLine(const std::vector<std::string> &lines) {
-    LogLine line;
-    EXPECT_EQ(lines.size(), 1u);
-    if (!lines.empty()) {
-        EXPECT_TRUE(parseLogLine(lines[0], &line)) << lines[0];
-    }
-    return line;
 }
 
 using LogLineTest = LogTest;
@@ -36,15 +21,16 @@ using LogLineTest = LogTest;
 TEST_F(LogLineTest, LogLineCarriesTimeComponentThreadIdLevelAndMessage) {
     ASSERT_EQ(TkzLogInit("SMIS"), 0);
     switchLogOn();
-    std::tm before = localNow();
+    std::time_t before = std::time(nullptr);
     ASSERT_EQ(TkzLogMsg(TKZ_LOG_ERROR, "disk %d of %s", 3, "ctrl"), 0);
-    std::tm after = localNow();
+    std::time_t after = std::time(nullptr);
 
-    LogLine line = onlyLine(logLines());
-    EXPECT_EQ(line.tag, "SMIS------");
-    EXPECT_EQ(line.threadId, logThreadId());
-    EXPECT_EQ(line.rest, "\t:LOG_ERROR::disk 3 of ctrl");
-    EXPECT_TRUE(sameDay(line, before) || sameDay(line, after));
+    auto lines = parsedLogLines();
+    ASSERT_EQ(lines.size(), 1u);
+    EXPECT_EQ(lines[0].tag, "SMIS------");
+    EXPECT_EQ(lines[0].threadId, logThreadId());
+    EXPECT_EQ(lines[0].rest, "\t:LOG_ERROR::disk 3 of ctrl");
+    EXPECT_TRUE(sameDay(lines[0], before) || sameDay(lines[0], after));
 }
 
 TEST_F(LogLineTest, EveryLevelIsWrittenWithItsWordAndUnknownLevelsAsInfo) {
@@ -55,37 +41,24 @@ TEST_F(LogLineTest, EveryLevelIsWrittenWithItsWordAndUnknownLevelsAsInfo) {
     for (int level = 0; level <= 9; ++level) {
         ASSERT_EQ(TkzLogMsg(level, "level %d", level), 0);
     }
-    TkzLogMsg(-1, "negative");
-
-    auto lines = logLines();
-    ASSERT_EQ(lines.size(), 11u);
+    auto lines = parsedLogLines();
+    ASSERT_EQ(lines.size(), 10u);
     for (int level = 0; level <= 9; ++level) {
-        LogLine line;
-        ASSERT_TRUE(parseLogLine(lines[level], &line)) << lines[level];
-        EXPECT_EQ(line.rest, std::string("\t") + expected[level] + "level " + std::to_string(level));
+        EXPECT_EQ(lines[level].rest, std::string("\t") + expected[level] + "level " + std::to_string(level));
     }
-    LogLine negative;
-    ASSERT_TRUE(parseLogLine(lines[10], &negative));
-    EXPECT_EQ(negative.rest, "\t:LOG_INFO::negative");
 }
 
-TEST_F(LogLineTest, TraceLineUsesTwoBlanksAndSpacedInfoWordAndNeverFormatsItsText) {
-    ASSERT_EQ(TkzLogInit("SMIS"), 0);
+TEST_F(LogLineTest, TraceLineHasTwoBlanksAndTheSpacedInfoWordAndNeverFormatsItsText) {
     switchLogOn();
+    ASSERT_EQ(TkzLogInit("SMIS"), 0);  // traces its success into the existing file
     ASSERT_EQ(TkzTrace("Entering %s %n %d 100%"), 0);
 
-    LogLine line = onlyLine(logLines());
-    EXPECT_EQ(line.tag, "SMIS------");
-    EXPECT_EQ(line.threadId, logThreadId());
-    EXPECT_EQ(line.rest, "  :LOG_INFO :: Entering %s %n %d 100%");
-}
-
-TEST_F(LogLineTest, InitTracesItsSuccessWhenTheFileIsThere) {
-    switchLogOn();
-    ASSERT_EQ(TkzLogInit("SMIS"), 0);
-
-    LogLine line = onlyLine(logLines());
-    EXPECT_EQ(line.rest, "  :LOG_INFO :: ######OSLIB Init Suucesazful#####");
+    auto lines = parsedLogLines();
+    ASSERT_EQ(lines.size(), 2u);
+    EXPECT_EQ(lines[0].rest, "  :LOG_INFO :: ######OSLIB Init Suucesazful#####");
+    EXPECT_EQ(lines[1].tag, "SMIS------");
+    EXPECT_EQ(lines[1].threadId, logThreadId());
+    EXPECT_EQ(lines[1].rest, "  :LOG_INFO :: Entering %s %n %d 100%");
 }
 
 TEST_F(LogLineTest, MessageLongerThanTheBufferIsCutTo511Characters) {
@@ -95,39 +68,25 @@ TEST_F(LogLineTest, MessageLongerThanTheBufferIsCutTo511Characters) {
     ASSERT_EQ(TkzLogMsg(TKZ_LOG_INFO, "%s%s", longText.c_str(), "END"), 0);
     ASSERT_EQ(TkzLogMsg(TKZ_LOG_INFO, "next"), 0);
 
-    auto lines = logLines();
+    auto lines = parsedLogLines();
     ASSERT_EQ(lines.size(), 2u);
-    LogLine cut;
-    LogLine next;
-    ASSERT_TRUE(parseLogLine(lines[0], &cut));
-    ASSERT_TRUE(parseLogLine(lines[1], &next));
-    EXPECT_EQ(cut.rest, "\t:LOG_INFO::" + std::string(511, 'x'));
-    EXPECT_EQ(next.rest, "\t:LOG_INFO::next");
+    EXPECT_EQ(lines[0].rest, "\t:LOG_INFO::" + std::string(511, 'x'));
+    EXPECT_EQ(lines[1].rest, "\t:LOG_INFO::next");
 }
 
-// The header pads the component with dashes to ten characters, never more.
-struct HeaderCase {
-    const char *component;
-    const char *padded;
-};
-
-class LogHeaderTest : public LogTest, public ::testing::WithParamInterface<HeaderCase> {};
-
-TEST_P(LogHeaderTest, ComponentAndDashesFillTenCharacters) {
-    const HeaderCase &c = GetParam();
-    ASSERT_EQ(TkzLogInit(c.component), 0);
-    switchLogOn(c.component);
-    ASSERT_EQ(TkzLogMsg(TKZ_LOG_WARN, "w"), 0);
-
-    LogLine line = onlyLine(logLines(c.component));
-    EXPECT_EQ(line.tag, c.padded);
-    EXPECT_EQ(line.rest, "\t:LOG_WARN::w");
+TEST_F(LogLineTest, DashesFillTheComponentToTenCharactersNeverMore) {
+    const std::pair<const char *, const char *> cases[] = {
+        {"A", "A---------"}, {"ABCDEFGHIJ", "ABCDEFGHIJ"}, {"ABCDEFGHIJKL", "ABCDEFGHIJKL"}};
+    for (auto [component, tag] : cases) {
+        resetLogStateForTesting();
+        ASSERT_EQ(TkzLogInit(component), 0);
+        switchLogOn(component);
+        ASSERT_EQ(TkzLogMsg(TKZ_LOG_WARN, "w"), 0);
+        auto lines = parsedLogLines(component);
+        ASSERT_EQ(lines.size(), 1u);
+        EXPECT_EQ(lines[0].tag, tag);
+    }
 }
-
-INSTANTIATE_TEST_SUITE_P(Components, LogHeaderTest,
-                         ::testing::Values(HeaderCase{"A", "A---------"}, HeaderCase{"SMIS", "SMIS------"},
-                                           HeaderCase{"ABCDEFGHIJ", "ABCDEFGHIJ"},
-                                           HeaderCase{"ABCDEFGHIJKL", "ABCDEFGHIJKL"}));
 
 }  // namespace
 }  // namespace vex::platform::test

@@ -1,26 +1,22 @@
 #include "platform/PlatformTestSupport.h"
 
 #include <pthread.h>
+#include <stdlib.h>
 
 #include <cstdio>
-#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 
-#include "platform/TkzLogState.h"
 #include "platform/TkzPaths.h"
 
 namespace vex::platform::test {
 
 TempDir::TempDir() {
-    const char *base = std::getenv("TMPDIR");
-    std::string pattern = std::string(base && *base ? base : "/tmp") + "/vexplatform.XXXXXX";
-    std::vector<char> name(pattern.begin(), pattern.end());
-    name.push_back('\0');
-    if (mkdtemp(name.data()) == nullptr) {
-        ADD_FAILURE() << "mkdtemp failed for " << pattern;
+    char name[] = "/tmp/vexplatform.XXXXXX";
+    if (mkdtemp(name) == nullptr) {
+        ADD_FAILURE() << "mkdtemp failed";
     }
-    path_ = name.data();
+    path_ = name;
 }
 
 TempDir::~TempDir() {
@@ -33,7 +29,7 @@ bool fileExists(const std::string &path) { return std::filesystem::exists(path);
 void writeFile(const std::string &path, const std::string &content) {
     std::ofstream out(path, std::ios::binary | std::ios::trunc);
     out << content;
-    ASSERT_TRUE(out.good()) << path;
+    EXPECT_TRUE(out.good()) << path;
 }
 
 std::vector<std::string> readLines(const std::string &path) {
@@ -53,31 +49,18 @@ std::string logThreadId() {
 
 namespace {
 
-bool isClock(const std::string &clock) {
-    if (clock.size() != 8 || clock[2] != ':' || clock[5] != ':') {
-        return false;
-    }
-    for (size_t i : {0, 1, 3, 4, 6, 7}) {
-        if (clock[i] < '0' || clock[i] > '9') {
-            return false;
-        }
-    }
-    return true;
-}
-
 // "m/d/yyyy hh:mm:ss" with month and day unpadded.
 bool parseStamp(const std::string &stamp, LogLine *line) {
-    char clock[9] = {};
-    int consumed = 0;
-    if (std::sscanf(stamp.c_str(), "%d/%d/%d %8[0-9:]%n", &line->month, &line->day, &line->year, clock,
-                    &consumed) != 4 ||
-        static_cast<size_t>(consumed) != stamp.size()) {
+    int hour = -1, minute = -1, second = -1, used = 0;
+    if (std::sscanf(stamp.c_str(), "%d/%d/%d %2d:%2d:%2d%n", &line->month, &line->day, &line->year, &hour,
+                    &minute, &second, &used) != 6 ||
+        static_cast<size_t>(used) != stamp.size() || stamp.size() < 9) {
         return false;
     }
-    line->clock = clock;
+    line->clock = stamp.substr(stamp.size() - 8);
     bool padded = stamp[0] == '0' || stamp[stamp.find('/') + 1] == '0';
-    return !padded && line->month >= 1 && line->month <= 12 && line->day >= 1 && line->day <= 31 &&
-           line->year >= 1000 && line->year <= 9999 && isClock(line->clock);
+    return !padded && line->clock[2] == ':' && line->clock[5] == ':' && line->month >= 1 && line->month <= 12 &&
+           line->day >= 1 && line->day <= 31 && line->year >= 1000 && line->year <= 9999;
 }
 
 }  // namespace
@@ -85,10 +68,7 @@ bool parseStamp(const std::string &stamp, LogLine *line) {
 bool parseLogLine(const std::string &text, LogLine *line) {
     size_t open = text.find('[');
     size_t close = text.find(']', open);
-    if (open == std::string::npos || close == std::string::npos || close - open - 1 < 8) {
-        return false;
-    }
-    if (!parseStamp(text.substr(0, open), line)) {
+    if (close == std::string::npos || close - open - 1 < 8 || !parseStamp(text.substr(0, open), line)) {
         return false;
     }
     line->tag = text.substr(open + 1, close - open - 1 - 8);
@@ -113,6 +93,16 @@ void LogTest::switchLogOn(const std::string &component) const { writeFile(logFil
 
 std::vector<std::string> LogTest::logLines(const std::string &component) const {
     return readLines(logFile(component));
+}
+
+std::vector<LogLine> LogTest::parsedLogLines(const std::string &component) const {
+    std::vector<LogLine> parsed;
+    for (const std::string &text : logLines(component)) {
+        LogLine line;
+        EXPECT_TRUE(parseLogLine(text, &line)) << text;
+        parsed.push_back(line);
+    }
+    return parsed;
 }
 
 }  // namespace vex::platform::test

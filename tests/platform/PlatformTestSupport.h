@@ -1,5 +1,6 @@
 // Helpers for the portability-layer tests: a scratch directory, small file
-// utilities and a fixture that points the log at the scratch directory.
+// utilities, a log-line parser and a fixture that points the log at the
+// scratch directory.
 #ifndef VEX_TESTS_PLATFORM_PLATFORMTESTSUPPORT_H
 #define VEX_TESTS_PLATFORM_PLATFORMTESTSUPPORT_H
 
@@ -8,9 +9,11 @@
 #include <string>
 #include <vector>
 
+#include "platform/TkzLogState.h"
+
 namespace vex::platform::test {
 
-// A fresh directory under $TMPDIR (or /tmp), removed with its contents.
+// A fresh directory under /tmp, removed with its contents.
 class TempDir {
 public:
     TempDir();
@@ -27,24 +30,18 @@ private:
 bool fileExists(const std::string &path);
 void writeFile(const std::string &path, const std::string &content);
 std::vector<std::string> readLines(const std::string &path);
-// The calling thread's id as the log writes it ("%8X").
-std::string logThreadId();
+std::string logThreadId();  // the calling thread's id as the log writes it
 
-// One line of the log: "m/d/yyyy hh:mm:ss[<tag><thread id>]<rest>", where the
-// tag is the component with its dashes and the thread id has 8 characters.
+// "m/d/yyyy hh:mm:ss[<tag><thread id>]<rest>": the tag is the component with
+// its dashes, the thread id its last 8 characters before "]".
 struct LogLine {
-    int month = 0;
-    int day = 0;
-    int year = 0;
-    std::string clock;
-    std::string tag;
-    std::string threadId;
-    std::string rest;
+    int month = 0, day = 0, year = 0;
+    std::string clock, tag, threadId, rest;
 };
-// False when the line does not have that shape (padded month or day included).
+// False when the text does not have that shape (padded month or day included).
 bool parseLogLine(const std::string &text, LogLine *line);
 
-// Each test starts with logging not initialised and the log directory in a
+// Each test starts with logging not initialised and its directory in a
 // scratch directory; everything is put back afterwards.
 class LogTest : public ::testing::Test {
 protected:
@@ -53,6 +50,7 @@ protected:
     std::string logFile(const std::string &component = "SMIS") const;
     void switchLogOn(const std::string &component = "SMIS") const;  // creates the empty file
     std::vector<std::string> logLines(const std::string &component = "SMIS") const;
+    std::vector<LogLine> parsedLogLines(const std::string &component = "SMIS") const;
 
     TempDir dir_;
 };
