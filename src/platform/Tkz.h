@@ -61,11 +61,13 @@ TKZ_API int TkzTrace(const char *text);
 
 /* ---- time ---------------------------------------------------------------- */
 
-TKZ_API int TkzGetLocalTime(char *buffer, size_t size);    /* "m/d/yyyy hh:mm:ss" */
+/* Functions that fill a buffer write at most size bytes, always terminated, and
+   return 1 for a null or empty buffer, 2 when the result was cut to fit. */
+TKZ_API int TkzGetLocalTime(char *buffer, size_t size);    /* "m/d/yyyy hh:mm:ss", month and day unpadded */
 TKZ_API int TkzGetFormatedTime(char *buffer, size_t size); /* "%m/%d/%Y %H:%M:%S" */
 TKZ_API int TkzGetTimeInTM(struct tm *out);
 TKZ_API int TkzGetSystemTime(TkzSystemTime *out);
-TKZ_API int TkzGetTimeZone(char *buffer, size_t size); /* "%+04d" offset from UTC */
+TKZ_API int TkzGetTimeZone(char *buffer, size_t size); /* "%+04d" minutes east of UTC */
 
 /* ---- files, processes, host ---------------------------------------------- */
 
@@ -76,7 +78,7 @@ TKZ_API int TkzGetHostName(char *buffer, size_t size);
 TKZ_API int TkzGetProcessId(void);
 TKZ_API int TkzGetHostIPAddress(char *buffer, size_t size);
 TKZ_API int TkzGetOSInfo(char *buffer, size_t size);
-TKZ_API int TkzGetProductVersion(char *buffer, size_t size);
+TKZ_API int TkzGetProductVersion(char *buffer, size_t size); /* first line, without its end */
 TKZ_API int TkzGetenv(const char *name, char *buffer, size_t size);
 TKZ_API void TkzSleep(unsigned int seconds);
 TKZ_API void TkzMilliSleep(unsigned int milliseconds);
@@ -104,7 +106,9 @@ TKZ_API int TkzReadWriteLockDestroy(TKZ_RWLOCK *lock);
 
 /* Starts func(arg) on a thread with a 10 MiB stack; null on failure. */
 TKZ_API TKZ_THREAD TkzThreadCreate(TKZ_THREAD_FUNC func, void *arg);
-/* Frees the handle and ends the calling thread. */
+/* A thread handle ends one of two ways, never both: the thread itself calls
+   TkzThreadExit with its own handle (the thread is detached and the handle
+   freed), or another thread calls TkzWaitForThreadTerminate (joins, then frees). */
 TKZ_API void TkzThreadExit(TKZ_THREAD thread);
 TKZ_API int TkzWaitForThreadTerminate(TKZ_THREAD thread);
 TKZ_API int TkzCancelThreadSyncIO(TKZ_THREAD thread);
@@ -120,7 +124,8 @@ TKZ_API void *TkzGetFuncAddress(TKZ_LIBRARY library, const char *name);
 /* ---- installation paths and configuration ---------------------------------- */
 
 /* The installation directory from the "tidalDS" environment variable, completed
-   to a sub-directory; 3 when the variable is not set. */
+   to "/log", "/conf", "/bin", "/loginfo" or "/gui/conf"; 3 when the variable is
+   not set or empty. */
 TKZ_API int TkzGetLogPath(char *buffer, size_t size);
 TKZ_API int TkzGetConfPath(char *buffer, size_t size);
 TKZ_API int TkzGetBinPath(char *buffer, size_t size);
