@@ -61,8 +61,8 @@ TKZ_API int TkzTrace(const char *text);
 
 /* ---- time ---------------------------------------------------------------- */
 
-/* Functions that fill a buffer write at most size bytes, always terminated, and
-   return 1 for a null or empty buffer, 2 when the result was cut to fit. */
+/* Functions that fill a buffer write at most size bytes, always terminated; they
+   return non-zero for a null or empty buffer and when the result does not fit. */
 TKZ_API int TkzGetLocalTime(char *buffer, size_t size);    /* "m/d/yyyy hh:mm:ss", month and day unpadded */
 TKZ_API int TkzGetFormatedTime(char *buffer, size_t size); /* "%m/%d/%Y %H:%M:%S" */
 TKZ_API int TkzGetTimeInTM(struct tm *out);
