@@ -65,8 +65,11 @@ void showLogicalDrives(const Adapter& a, std::ostream& out) {
             members += fmt(" %u:%u%s", c->getChannelID(), c->getDeviceID(),
                            c->getState() == ChunkState::Ok ? "" : (std::string("(") + toString(c->getState()) + ")").c_str());
         }
-        out << fmt("    %-3u %-12s %-7s %-10s %11s stripe %uK%s members:%s\n", l->getLogicalDriveID(),
-                   l->getName().c_str(), toString(l->getRaidLevel()), toString(l->getState()),
+        std::string state = toString(l->getState());
+        if (l->getSubstate() != l->getState() && l->getSubstate() != LogicalDriveState::Optimal)
+            state += std::string("/") + toString(l->getSubstate());
+        out << fmt("    %-3u %-12s %-7s %-19s %11s stripe %uK%s members:%s\n", l->getLogicalDriveID(),
+                   l->getName().c_str(), toString(l->getRaidLevel()), state.c_str(),
                    gb(l->getDataSizeMB()).c_str(), l->getStripeSizeKB(), l->isHotSpareProtected() ? " protected" : "",
                    members.c_str());
     }

@@ -101,9 +101,20 @@ void takeSpare(Model& m, ControllerRec& c, LdRec& ld) {
     }
 }
 
+// A consistency check or build cannot go on once a member is lost.
+void stopChecks(Model& m, ControllerRec& c, const LdRec& ld) {
+    for (TaskRec& t : c.tasks) {
+        TaskType type = t.p.taskType;
+        bool check = type == TaskType::Verify || type == TaskType::VerifyFix || type == TaskType::Build ||
+                     type == TaskType::Clear;
+        if (check && t.p.logicalDriveID == ld.id) endTask(m, c, t, TaskState::Failed, "a member was lost");
+    }
+}
+
 void updateLd(Model& m, ControllerRec& c, LdRec& ld) {
     followDrives(c, ld);
     LogicalDriveState health = evaluateHealth(ld);
+    if (health != LogicalDriveState::Optimal) stopChecks(m, c, ld);
     if (health == LogicalDriveState::Failed && ld.ld.substate != LogicalDriveState::Failed)
         abortTasksOf(m, c, ld.id);
     ld.ld.substate = health;
