@@ -242,31 +242,36 @@ void checkTasks(Model& m, ControllerRec& c, const std::string& p) {
     }
 }
 
-void defaultPorts(ControllerRec& c) {
-    if (c.phys.empty())
-        for (uint32_t i = 0; i < 8; ++i) {
-            SASPhyData p;
-            p.phyId = i;
-            bool used = i < 4 ? !c.enclosures.empty() || c.drives.size() > i : c.drives.size() > i;
-            p.attachedDeviceType = used ? (c.enclosures.empty() ? "end device" : "expander") : "none";
-            p.attachedSASAddress = used ? (c.enclosures.empty() && i < c.drives.size() ? c.drives[i].dev.wwn
-                                                                                         : c.enclosures.empty() ? "" : c.enclosures[0].dev.wwn)
-                                        : "";
-            p.negotiatedLinkRate = used ? LinkRate::Rate12G : LinkRate::Unknown;
-            c.phys.push_back(p);
+// Eight phys on two 4-lane connectors. With an enclosure the first four phys
+// go to its expander; without, each phy attaches one drive directly.
+void defaultPhys(ControllerRec& c) {
+    for (uint32_t i = 0; i < 8; ++i) {
+        SASPhyData p;
+        p.phyId = i;
+        if (!c.enclosures.empty() && i < 4) {
+            p.attachedDeviceType = "expander";
+            p.attachedSASAddress = c.enclosures.front().dev.wwn;
+        } else if (c.enclosures.empty() && i < c.drives.size()) {
+            p.attachedDeviceType = "end device";
+            p.attachedSASAddress = c.drives[i].dev.wwn;
         }
-    if (c.connectors.empty())
-        for (uint32_t i = 0; i < 2; ++i) {
-            SASConnectorData k;
-            k.connectorId = i;
-            k.name = "CN" + std::to_string(i);
-            for (uint32_t l = 0; l < 4; ++l) {
-                k.phyIds.push_back(i * 4 + l);
-                k.laneIds.push_back(l);
-            }
-            k.sasAddress = c.ad.wwn;
-            c.connectors.push_back(k);
+        p.negotiatedLinkRate = p.attachedSASAddress.empty() ? LinkRate::Unknown : LinkRate::Rate12G;
+        c.phys.push_back(p);
+    }
+}
+
+void defaultConnectors(ControllerRec& c) {
+    for (uint32_t i = 0; i < 2; ++i) {
+        SASConnectorData k;
+        k.connectorId = i;
+        k.name = "CN" + std::to_string(i);
+        for (uint32_t l = 0; l < 4; ++l) {
+            k.phyIds.push_back(i * 4 + l);
+            k.laneIds.push_back(l);
         }
+        k.sasAddress = c.ad.wwn;
+        c.connectors.push_back(k);
+    }
 }
 
 void finalizeController(Model& m, ControllerRec& c, const ControllerExtras& cx, const std::string& p) {
@@ -292,7 +297,8 @@ void finalizeController(Model& m, ControllerRec& c, const ControllerExtras& cx, 
         for (const EnclosureRec& e : c.enclosures) chans.insert(e.channel);
         for (uint32_t ch : chans) c.channels.push_back({ch, {}});
     }
-    defaultPorts(c);
+    if (c.phys.empty()) defaultPhys(c);
+    if (c.connectors.empty()) defaultConnectors(c);
     reconcile(m, c);
     checkTasks(m, c, p);
     reconcile(m, c);
