@@ -24,7 +24,8 @@ void BM_CopyNewCachetoOldCache(benchmark::State& state) {
 }
 
 // The copy as it was done before: flush, then one add per instance, each
-// comparing with all instances added so far. For comparison only.
+// comparing with all instances added so far. For comparison only; built on
+// the public operations, it also pays for reading the source out.
 void BM_CopyByRepeatedAdds(benchmark::State& state) {
     const ContentSize size = fillCache(static_cast<int>(state.range(0)));
     Cache* from = Cache::getInstance(true);

@@ -41,7 +41,7 @@ void VexCacheManagerCleanUp::SetInstance(VexCacheManager* first, VexCacheManager
     }
 }
 
-// Called once both pointers were seen null: creates the pair under the
+// Called when a pointer was seen null: creates the pair under the
 // creation mutex unless another thread got there first. Both are published
 // while the mutex is held, so whoever takes it next sees both.
 void VexCacheManager::createRepositories() {
