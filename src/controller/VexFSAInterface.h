@@ -68,6 +68,7 @@ struct FsaEventLink {
 
 class VexFSAInterface;
 class VexCacheManager;
+class fsaCIMInstanceWrapper;
 
 // Created at library load: creates the creation mutex and the StorLib guard;
 // at unload deletes the interface, then the guard, then the creation mutex.
@@ -149,13 +150,16 @@ private:
 
     VexFSAInterface();
 
+    struct CacheBuild;  // the repository being built and the snapshot it is read from
+
     void initializeRoutineList();
     // Where the library handle comes from (see FsaLibraryAccess.cpp).
     void acquireLibrary();
-    void emptyCacheForBuild(VexCacheManager& cache, bool rebuild, bool partial);
+    static void emptyCacheForBuild(VexCacheManager& cache, bool rebuild, bool partial);
     void readControllers(VexCacheManager& cache, bool rebuild, bool partial);
     unsigned int finishInitialize(bool syncAfter);
-    void updateAdapterinfo(int index, CIMInstance& instance, bool rebuild, bool partial);
+    void updateAdapterinfo(int index, fsaCIMInstanceWrapper& instance, bool rebuild, bool partial,
+                           const CacheBuild& build);
 
     std::atomic<storlib::StorLib*> m_storLib{nullptr};
     std::unique_ptr<storlib::StorLib> m_ownLibrary;  // opened here while no monitor shares one

@@ -1,0 +1,23 @@
+// What one cache build reads from and writes to.
+#ifndef VEX_CONTROLLER_FSACACHEBUILD_H
+#define VEX_CONTROLLER_FSACACHEBUILD_H
+
+#include <memory>
+
+#include <storlib/SystemConfig.h>
+
+#include "controller/VexCacheManager.h"
+#include "controller/VexFSAInterface.h"
+
+namespace vex::cim::fwf {
+
+struct VexFSAInterface::CacheBuild {
+    VexCacheManager& cache;
+    // The controllers as of the start of the build; null when the library
+    // could not give them (every controller then counts as not usable).
+    std::shared_ptr<const storlib::SystemConfig> snapshot;
+};
+
+}  // namespace vex::cim::fwf
+
+#endif

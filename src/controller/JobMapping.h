@@ -1,0 +1,22 @@
+// Jobs: every running task of a controller becomes one instance of cache
+// type 12, served as VEX_ConcreteJob (InstanceID is its key).
+#ifndef VEX_CONTROLLER_JOBMAPPING_H
+#define VEX_CONTROLLER_JOBMAPPING_H
+
+#include <cstdint>
+
+#include "controller/MappingContext.h"
+
+namespace vex::cim::fwf {
+class VexCacheManager;
+}
+
+namespace vex::cim::fwf::fsamap {
+
+// The running tasks of one controller; now is the snapshot's controller clock.
+void updateLrcInformation(const ControllerContext& controller, std::int64_t now, VexCacheManager& cache);
+void addJobDetails(const JobContext& job, VexCacheManager& cache);
+
+}  // namespace vex::cim::fwf::fsamap
+
+#endif

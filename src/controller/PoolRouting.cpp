@@ -1,0 +1,23 @@
+#include <storlib/LogicalDrive.h>
+
+#include "controller/PoolMapping.h"
+#include "controller/VexCacheManager.h"
+
+namespace vex::cim::fwf::fsamap {
+
+_eVEXObjectType poolTypeOf(const storlib::Adapter& adapter, const storlib::LogicalDrive& logicalDrive) {
+    const bool overLimit = logicalDrive.getDataSizeMB() > adapter.getLegacyLbaLimitMB();
+    return overLimit && !logicalDrive.hasExtendedLba() ? VEX_OBJ_SSP_POOL : VEX_OBJ_CONCRETE_POOL;
+}
+
+void updateVirtualDisk(const ControllerContext& controller, VexCacheManager& cache) {
+    for (const storlib::RaidObject* object :
+         storlib::FilterCollection(*controller.adapter, storlib::LogicalDrive::kClassName)) {
+        const LogicalDriveContext logicalDrive{controller.index, object->as<storlib::LogicalDrive>()};
+        fsaCIMInstanceWrapper pool;
+        insertPoolDetails(logicalDrive, pool, cache);
+        cache.addObjInstance(poolTypeOf(*controller.adapter, *logicalDrive.logicalDrive), pool);
+    }
+}
+
+}  // namespace vex::cim::fwf::fsamap
