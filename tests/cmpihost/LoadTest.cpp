@@ -66,6 +66,9 @@ TEST(Load, TwoPlainLoadsOfOneFileShareTheirStatics) {
     ASSERT_TRUE(second.load(providerPath(), providerName(), global).ok());
     const auto before = call(first, "Counter").returnValue().asUnsigned();
     EXPECT_EQ(call(second, "Counter").returnValue().asUnsigned(), before + 1);
+    // The provider's broker pointer is shared as well and now names the
+    // second host, which goes first: point it back at the survivor.
+    EXPECT_TRUE(first.createMI(MIKind::Method).ok());
 }
 
 TEST(Load, FactoriesRunOnFirstUseOnceAndOnEveryExplicitCall) {

@@ -11,6 +11,8 @@
 #include <cstdint>
 #include <memory>
 #include <string>
+#include <type_traits>
+#include <utility>
 #include <variant>
 #include <vector>
 
@@ -75,7 +77,10 @@ private:
     using Data = std::variant<std::monostate, bool, std::uint64_t, std::int64_t, double,
                               std::string, DateTime, std::shared_ptr<const ObjectPath>,
                               std::shared_ptr<const Instance>, Array>;
-    Value(CMPIType type, Data data) : m_type(type), m_data(std::move(data)) {}
+    // Builds the alternative in place (no variant is moved around).
+    template <class T>
+    Value(CMPIType type, T&& v)
+        : m_type(type), m_data(std::in_place_type<std::decay_t<T>>, std::forward<T>(v)) {}
 
     CMPIType m_type = CMPI_null;
     Data m_data;
