@@ -11,13 +11,13 @@
 #include "controller/MappingContext.h"
 
 namespace vex::cim::fwf {
-class VexCacheManager;
+class InstanceBatch;
 }
 
 namespace vex::cim::fwf::fsamap {
 
 // Every physical device into type 0, then every enclosure into types 7 and 8.
-void updatePhysicalDevice(const ControllerContext& controller, VexCacheManager& cache);
+void updatePhysicalDevice(const ControllerContext& controller, InstanceBatch& batch);
 
 void insertStorageDevInfoDetails(const DeviceContext& device, fsaCIMInstanceWrapper& instance);
 void insertOtherDeviceInfo(const DeviceContext& device, fsaCIMInstanceWrapper& instance);
@@ -25,8 +25,8 @@ void insertPhyInfo(const DeviceContext& device, fsaCIMInstanceWrapper& instance)
 void insertDiskSmartDetails(const DeviceContext& device, fsaCIMInstanceWrapper& instance);
 
 // The enclosure into type 7 and its elements into type 8.
-void updateEnclosureInformation(const EnclosureContext& enclosure, VexCacheManager& cache);
-void initSESData(const SESElementContext& element, VexCacheManager& cache);
+void updateEnclosureInformation(const EnclosureContext& enclosure, InstanceBatch& batch);
+void initSESData(const SESElementContext& element, InstanceBatch& batch);
 
 // The chassis tag of an enclosure, which its elements name as their system.
 std::string enclosureTag(const EnclosureContext& enclosure);

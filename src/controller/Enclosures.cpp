@@ -1,7 +1,7 @@
 #include "controller/CimNames.h"
 #include "controller/DeviceMapping.h"
 #include "controller/StatusMaps.h"
-#include "controller/VexCacheManager.h"
+#include "controller/InstanceBatch.h"
 
 namespace vex::cim::fwf::fsamap {
 
@@ -49,13 +49,13 @@ std::string enclosureTag(const EnclosureContext& enclosure) {
     return enclosureSystemName(enclosure.controller, enclosure.enclosure->getLogicalId());
 }
 
-void updateEnclosureInformation(const EnclosureContext& enclosure, VexCacheManager& cache) {
+void updateEnclosureInformation(const EnclosureContext& enclosure, InstanceBatch& batch) {
     fsaCIMInstanceWrapper instance;
     instance.addRows(kEnclosure, enclosure);
-    cache.addObjInstance(VEX_OBJ_ENCLOSURE, instance);
+    batch.add(VEX_OBJ_ENCLOSURE, instance);
     for (const storlib::RaidObject* object :
          storlib::FilterCollection(*enclosure.enclosure, storlib::SESElement::kClassName)) {
-        initSESData(SESElementContext{&enclosure, object->as<storlib::SESElement>()}, cache);
+        initSESData(SESElementContext{&enclosure, object->as<storlib::SESElement>()}, batch);
     }
 }
 

@@ -33,7 +33,7 @@ void readControllerDetails(const fsamap::ControllerContext& controller, fsaCIMIn
 }  // namespace
 
 void VexFSAInterface::updateAdapterinfo(int index, fsaCIMInstanceWrapper& instance, bool rebuild,
-                                        bool partial, const CacheBuild& build) {
+                                        bool partial, CacheBuild& build) {
     const fsamap::ControllerContext controller{index, adapterAt(build.snapshot.get(), index)};
     if (!partial) {
         fsamap::setInfoFromFsaEnum(controller, instance);
@@ -46,12 +46,12 @@ void VexFSAInterface::updateAdapterinfo(int index, fsaCIMInstanceWrapper& instan
     if (!partial) {
         readControllerDetails(controller, instance);
         if (!rebuild) {
-            fsamap::updateAssociatedStorageSettings(controller, build.cache);
+            fsamap::updateAssociatedStorageSettings(controller, build.batch);
         }
-        fsamap::updatePhysicalDevice(controller, build.cache);
-        fsamap::updateVirtualDisk(controller, build.cache);
+        fsamap::updatePhysicalDevice(controller, build.batch);
+        fsamap::updateVirtualDisk(controller, build.batch);
     }
-    fsamap::updateLrcInformation(controller, build.snapshot->getTime(), build.cache);
+    fsamap::updateLrcInformation(controller, build.snapshot->getTime(), build.batch);
 }
 
 }  // namespace vex::cim::fwf

@@ -99,7 +99,7 @@ void VexFSAInterface::readControllers(VexCacheManager& cache, bool rebuild, bool
     unsigned long count = 0;
     library->getControllerCount(count);
     m_controllerCount = count;
-    const CacheBuild build{cache, library->getSystemConfig()};
+    CacheBuild build{cache, library->getSystemConfig(), InstanceBatch()};
     for (unsigned long index = 0; index < count; ++index) {
         fsaCIMInstanceWrapper instance;
         updateAdapterinfo(static_cast<int>(index), instance, rebuild, partial, build);
@@ -113,6 +113,7 @@ void VexFSAInterface::readControllers(VexCacheManager& cache, bool rebuild, bool
             cache.addObjInstance(VEX_OBJ_CONTROLLER, instance);
         }
     }
+    build.batch.storeInto(cache);
 }
 
 unsigned int VexFSAInterface::finishInitialize(bool syncAfter) {

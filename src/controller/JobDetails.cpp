@@ -5,7 +5,7 @@
 #include "controller/FsaTimes.h"
 #include "controller/JobMapping.h"
 #include "controller/StatusMaps.h"
-#include "controller/VexCacheManager.h"
+#include "controller/InstanceBatch.h"
 
 namespace vex::cim::fwf::fsamap {
 
@@ -58,18 +58,18 @@ const Row kJob[] = {
 
 }  // namespace
 
-void addJobDetails(const JobContext& job, VexCacheManager& cache) {
+void addJobDetails(const JobContext& job, InstanceBatch& batch) {
     fsaCIMInstanceWrapper instance;
     instance.addRows(kJob, job);
-    cache.addObjInstance(VEX_OBJ_JOB, instance);
+    batch.add(VEX_OBJ_JOB, instance);
 }
 
-void updateLrcInformation(const ControllerContext& controller, std::int64_t now, VexCacheManager& cache) {
+void updateLrcInformation(const ControllerContext& controller, std::int64_t now, InstanceBatch& batch) {
     for (const storlib::RaidObject* object :
          storlib::FilterCollection(*controller.adapter, storlib::Progress::kClassName)) {
         const auto* task = object->as<storlib::Progress>();
         if (task->getTaskState() == storlib::TaskState::Running) {
-            addJobDetails(JobContext{controller.index, task, now}, cache);
+            addJobDetails(JobContext{controller.index, task, now}, batch);
         }
     }
 }

@@ -8,14 +8,14 @@
 #include "controller/MappingContext.h"
 
 namespace vex::cim::fwf {
-class VexCacheManager;
+class InstanceBatch;
 }
 
 namespace vex::cim::fwf::fsamap {
 
 // The running tasks of one controller; now is the snapshot's controller clock.
-void updateLrcInformation(const ControllerContext& controller, std::int64_t now, VexCacheManager& cache);
-void addJobDetails(const JobContext& job, VexCacheManager& cache);
+void updateLrcInformation(const ControllerContext& controller, std::int64_t now, InstanceBatch& batch);
+void addJobDetails(const JobContext& job, InstanceBatch& batch);
 
 }  // namespace vex::cim::fwf::fsamap
 

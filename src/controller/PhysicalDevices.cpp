@@ -5,7 +5,7 @@
 #include <storlib/HardDrive.h>
 
 #include "controller/DeviceMapping.h"
-#include "controller/VexCacheManager.h"
+#include "controller/InstanceBatch.h"
 #include "platform/Tkz.h"
 
 namespace vex::cim::fwf::fsamap {
@@ -31,7 +31,7 @@ EnclosureTags enclosureTagsOf(const ControllerContext& controller) {
     return tags;
 }
 
-void addDevice(const DeviceContext& device, VexCacheManager& cache) {
+void addDevice(const DeviceContext& device, InstanceBatch& batch) {
     fsaCIMInstanceWrapper instance;
     insertPhyInfo(device, instance);
     insertDiskSmartDetails(device, instance);
@@ -40,12 +40,12 @@ void addDevice(const DeviceContext& device, VexCacheManager& cache) {
     } else {
         insertOtherDeviceInfo(device, instance);
     }
-    cache.addObjInstance(VEX_OBJ_PHYSICAL_DRIVE, instance);
+    batch.add(VEX_OBJ_PHYSICAL_DRIVE, instance);
 }
 
 }  // namespace
 
-void updatePhysicalDevice(const ControllerContext& controller, VexCacheManager& cache) {
+void updatePhysicalDevice(const ControllerContext& controller, InstanceBatch& batch) {
     const EnclosureTags tags = enclosureTagsOf(controller);
     for (const storlib::RaidObject* object :
          storlib::FilterCollection(*controller.adapter, storlib::PhysicalDevice::kClassName)) {
@@ -59,12 +59,12 @@ void updatePhysicalDevice(const ControllerContext& controller, VexCacheManager& 
                 device.enclosureTag = tag->second;
             }
         }
-        addDevice(device, cache);
+        addDevice(device, batch);
     }
     for (const storlib::RaidObject* object :
          storlib::FilterCollection(*controller.adapter, storlib::SES2EnclosureDevice::kClassName)) {
         updateEnclosureInformation(EnclosureContext{controller.index, object->as<storlib::SES2EnclosureDevice>()},
-                                   cache);
+                                   batch);
     }
 }
 

@@ -114,10 +114,10 @@ const Row kCapabilities[] = {
 }  // namespace
 
 void insertPoolDetails(const LogicalDriveContext& logicalDrive, fsaCIMInstanceWrapper& pool,
-                       VexCacheManager& cache) {
+                       InstanceBatch& batch) {
     pool.addRows(kPool, logicalDrive);
     pool.addRows(kCapabilities, logicalDrive);
-    insertVolumeDetails(logicalDrive, cache);
+    insertVolumeDetails(logicalDrive, batch);
 }
 
 }  // namespace vex::cim::fwf::fsamap

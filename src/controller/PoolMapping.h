@@ -9,13 +9,13 @@
 #include "framework/VexObjectType.h"
 
 namespace vex::cim::fwf {
-class VexCacheManager;
+class InstanceBatch;
 }
 
 namespace vex::cim::fwf::fsamap {
 
 // Every logical drive's pool into type 4 or 5 (see poolTypeOf) and its volume into type 2.
-void updateVirtualDisk(const ControllerContext& controller, VexCacheManager& cache);
+void updateVirtualDisk(const ControllerContext& controller, InstanceBatch& batch);
 
 // A logical drive larger than the controller's size limit whose extended
 // addressing flag is clear goes to type 5; every other one to type 4.
@@ -23,11 +23,11 @@ _eVEXObjectType poolTypeOf(const storlib::Adapter& adapter, const storlib::Logic
 
 // Fills the pool instance and adds the logical drive's volume to type 2.
 void insertPoolDetails(const LogicalDriveContext& logicalDrive, fsaCIMInstanceWrapper& pool,
-                       VexCacheManager& cache);
-void insertVolumeDetails(const LogicalDriveContext& logicalDrive, VexCacheManager& cache);
+                       InstanceBatch& batch);
+void insertVolumeDetails(const LogicalDriveContext& logicalDrive, InstanceBatch& batch);
 
 // One storage setting per logical drive into type 15.
-void updateAssociatedStorageSettings(const ControllerContext& controller, VexCacheManager& cache);
+void updateAssociatedStorageSettings(const ControllerContext& controller, InstanceBatch& batch);
 
 }  // namespace vex::cim::fwf::fsamap
 

@@ -1,7 +1,7 @@
 #include <storlib/LogicalDrive.h>
 
 #include "controller/PoolMapping.h"
-#include "controller/VexCacheManager.h"
+#include "controller/InstanceBatch.h"
 
 namespace vex::cim::fwf::fsamap {
 
@@ -10,13 +10,13 @@ _eVEXObjectType poolTypeOf(const storlib::Adapter& adapter, const storlib::Logic
     return overLimit && !logicalDrive.hasExtendedLba() ? VEX_OBJ_SSP_POOL : VEX_OBJ_CONCRETE_POOL;
 }
 
-void updateVirtualDisk(const ControllerContext& controller, VexCacheManager& cache) {
+void updateVirtualDisk(const ControllerContext& controller, InstanceBatch& batch) {
     for (const storlib::RaidObject* object :
          storlib::FilterCollection(*controller.adapter, storlib::LogicalDrive::kClassName)) {
         const LogicalDriveContext logicalDrive{controller.index, object->as<storlib::LogicalDrive>()};
         fsaCIMInstanceWrapper pool;
-        insertPoolDetails(logicalDrive, pool, cache);
-        cache.addObjInstance(poolTypeOf(*controller.adapter, *logicalDrive.logicalDrive), pool);
+        insertPoolDetails(logicalDrive, pool, batch);
+        batch.add(poolTypeOf(*controller.adapter, *logicalDrive.logicalDrive), pool);
     }
 }
 

@@ -1,6 +1,6 @@
 #include "controller/CimNames.h"
 #include "controller/DeviceMapping.h"
-#include "controller/VexCacheManager.h"
+#include "controller/InstanceBatch.h"
 
 namespace vex::cim::fwf::fsamap {
 
@@ -46,13 +46,13 @@ const Row kSlot[] = {
 
 }  // namespace
 
-void initSESData(const SESElementContext& element, VexCacheManager& cache) {
+void initSESData(const SESElementContext& element, InstanceBatch& batch) {
     fsaCIMInstanceWrapper instance;
     instance.addRows(kElement, element);
     if (element.element->as<EnclosureSlot>() != nullptr) {
         instance.addRows(kSlot, element);
     }
-    cache.addObjInstance(VEX_OBJ_SES_ELEMENT, instance);
+    batch.add(VEX_OBJ_SES_ELEMENT, instance);
 }
 
 }  // namespace vex::cim::fwf::fsamap

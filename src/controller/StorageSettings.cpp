@@ -4,7 +4,7 @@
 #include "controller/CimNames.h"
 #include "controller/PoolMapping.h"
 #include "controller/RaidRedundancy.h"
-#include "controller/VexCacheManager.h"
+#include "controller/InstanceBatch.h"
 
 namespace vex::cim::fwf::fsamap {
 
@@ -52,14 +52,14 @@ const Row kSetting[] = {
 
 }  // namespace
 
-void updateAssociatedStorageSettings(const ControllerContext& controller, VexCacheManager& cache) {
+void updateAssociatedStorageSettings(const ControllerContext& controller, InstanceBatch& batch) {
     for (const storlib::RaidObject* object :
          storlib::FilterCollection(*controller.adapter, storlib::LogicalDrive::kClassName)) {
         const auto* logicalDrive = object->as<storlib::LogicalDrive>();
         const SettingContext setting{{controller.index, logicalDrive}, redundancyOf(*logicalDrive)};
         fsaCIMInstanceWrapper instance;
         instance.addRows(kSetting, setting);
-        cache.addObjInstance(VEX_OBJ_VOLUME_SETTING, instance);
+        batch.add(VEX_OBJ_VOLUME_SETTING, instance);
     }
 }
 

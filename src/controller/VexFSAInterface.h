@@ -159,7 +159,7 @@ private:
     void readControllers(VexCacheManager& cache, bool rebuild, bool partial);
     unsigned int finishInitialize(bool syncAfter);
     void updateAdapterinfo(int index, fsaCIMInstanceWrapper& instance, bool rebuild, bool partial,
-                           const CacheBuild& build);
+                           CacheBuild& build);
 
     std::atomic<storlib::StorLib*> m_storLib{nullptr};
     std::unique_ptr<storlib::StorLib> m_ownLibrary;  // opened here while no monitor shares one

@@ -1,6 +1,6 @@
 #include "controller/CimNames.h"
 #include "controller/PoolMapping.h"
-#include "controller/VexCacheManager.h"
+#include "controller/InstanceBatch.h"
 
 namespace vex::cim::fwf::fsamap {
 
@@ -27,10 +27,10 @@ const Row kVolume[] = {
 
 }  // namespace
 
-void insertVolumeDetails(const LogicalDriveContext& logicalDrive, VexCacheManager& cache) {
+void insertVolumeDetails(const LogicalDriveContext& logicalDrive, InstanceBatch& batch) {
     fsaCIMInstanceWrapper volume;
     volume.addRows(kVolume, logicalDrive);
-    cache.addObjInstance(VEX_OBJ_STORAGE_VOLUME, volume);
+    batch.add(VEX_OBJ_STORAGE_VOLUME, volume);
 }
 
 }  // namespace vex::cim::fwf::fsamap
