@@ -69,7 +69,7 @@ TEST(Concurrency, HostsWithFreshLivesRunSideBySide) {
     std::vector<std::thread> threads;
     std::atomic<int> wrong{0};
     for (int t = 0; t < 3; ++t) {
-        threads.emplace_back([&] {
+        threads.emplace_back([&, t] {
             auto host = loadedHost(t % 2 ? HostConfig::sfcb14() : HostConfig::pegasus214());
             for (CMPIUint32 i = 1; i <= 10; ++i) {
                 wrong += call(*host, "Counter").returnValue() != Value::uint32(i);

@@ -758,16 +758,67 @@ static CMPIStatus HTIndicationCleanup(CMPIIndicationMI *mi, const CMPIContext *c
 }
 
 /* Every factory call counts, and touches the broker once (the string is
- * the host's: no request is running). */
-static void factoryCalled(const CMPIContext *ctx) {
+ * the host's: no request is running). The broker is stored only when it
+ * changes: factories may run on several threads while others serve
+ * requests, and all of them pass the same broker. */
+static void factoryCalled(const CMPIBroker *brkr, const CMPIContext *ctx) {
+    if (__atomic_load_n(&broker, __ATOMIC_ACQUIRE) != brkr) {
+        __atomic_store_n(&broker, brkr, __ATOMIC_RELEASE);
+    }
     bump(&g_factoryCalls);
     pthread_mutex_lock(&g_lock);
     g_factoryCtxNull += ctx == NULL;
     pthread_mutex_unlock(&g_lock);
-    CMNewString(broker, "factory", NULL);
+    CMNewString(brkr, "factory", NULL);
 }
 
-CMInstanceMIStub(HT, HostTest, broker, factoryCalled(ctx))
-CMAssociationMIStub(HT, HostTest, broker, factoryCalled(ctx))
-CMMethodMIStub(HT, HostTest, broker, factoryCalled(ctx))
-CMIndicationMIStub(HT, HostTest, broker, factoryCalled(ctx))
+static CMPIInstanceMIFT instFT = {CMPICurrentVersion, CMPICurrentVersion, "instanceHostTest",
+                                  HTCleanup, HTEnumInstanceNames, HTEnumInstances,
+                                  HTGetInstance, HTCreateInstance, HTModifyInstance,
+                                  HTDeleteInstance, HTExecQuery};
+static CMPIAssociationMIFT assocFT = {CMPICurrentVersion, CMPICurrentVersion,
+                                      "associationHostTest", HTAssociationCleanup,
+                                      HTAssociators, HTAssociatorNames, HTReferences,
+                                      HTReferenceNames};
+static CMPIMethodMIFT methFT = {CMPICurrentVersion, CMPICurrentVersion, "methodHostTest",
+                                HTMethodCleanup, HTInvokeMethod};
+static CMPIIndicationMIFT indFT = {CMPICurrentVersion, CMPICurrentVersion,
+                                   "IndicationHostTest", HTIndicationCleanup,
+                                   HTAuthorizeFilter, HTMustPoll, HTActivateFilter,
+                                   HTDeActivateFilter, HTEnableIndications,
+                                   HTDisableIndications};
+
+static CMPIInstanceMI instMI = {NULL, &instFT};
+static CMPIAssociationMI assocMI = {NULL, &assocFT};
+static CMPIMethodMI methMI = {NULL, &methFT};
+static CMPIIndicationMI indMI = {NULL, &indFT};
+
+CMPI_EXTERN_C CMPIInstanceMI *HostTest_Create_InstanceMI(const CMPIBroker *brkr,
+                                                         const CMPIContext *ctx, CMPIStatus *rc) {
+    (void)rc;
+    factoryCalled(brkr, ctx);
+    return &instMI;
+}
+
+CMPI_EXTERN_C CMPIAssociationMI *HostTest_Create_AssociationMI(const CMPIBroker *brkr,
+                                                               const CMPIContext *ctx,
+                                                               CMPIStatus *rc) {
+    (void)rc;
+    factoryCalled(brkr, ctx);
+    return &assocMI;
+}
+
+CMPI_EXTERN_C CMPIMethodMI *HostTest_Create_MethodMI(const CMPIBroker *brkr,
+                                                     const CMPIContext *ctx, CMPIStatus *rc) {
+    (void)rc;
+    factoryCalled(brkr, ctx);
+    return &methMI;
+}
+
+CMPI_EXTERN_C CMPIIndicationMI *HostTest_Create_IndicationMI(const CMPIBroker *brkr,
+                                                             const CMPIContext *ctx,
+                                                             CMPIStatus *rc) {
+    (void)rc;
+    factoryCalled(brkr, ctx);
+    return &indMI;
+}
