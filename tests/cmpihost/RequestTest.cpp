@@ -122,10 +122,18 @@ TEST_F(Requests, NullAndHollowHandlesReachTheProvider) {
               std::optional<std::string>("inst=hollow"));
 }
 
-TEST_F(Requests, UnknownMethodAndMissingMIAreReported) {
+TEST_F(Requests, UnknownMethodIsReported) {
     Response r = call(*host, "NoSuchMethod");
     EXPECT_EQ(r.status.rc, CMPI_RC_ERR_METHOD_NOT_FOUND);
     EXPECT_EQ(r.status.message, std::optional<std::string>("NoSuchMethod"));
+}
+
+TEST_F(Requests, ResultsAfterReturnDoneAreKeptAndFlagged) {
+    Response r = call(*host, "LateReturn");
+    EXPECT_EQ(r.doneCount, 2);
+    EXPECT_TRUE(r.returnedAfterDone);
+    EXPECT_EQ(r.returnValue(), Value::uint32(1));
+    EXPECT_FALSE(call(*host, "Counter").returnedAfterDone);
 }
 
 TEST_F(Requests, IndicationMIGetsFilterClassAndOwner) {

@@ -9,7 +9,7 @@
  * Instances: class HT_AllTypes carries one property of every CMPI type.
  * Methods (invokeMethod): Echo, Counter, FactoryCalls, Principal, Broker,
  * Upcall, IsA, StartIndications, JoinIndications, UnattachedIndication,
- * Error, CloneKeep, CloneRelease, Message. See invokeMethod below.
+ * Error, CloneKeep, CloneRelease, Message, LateReturn. See invokeMethod below.
  */
 #include <cmpidt.h>
 #include <cmpift.h>
@@ -613,6 +613,11 @@ static CMPIStatus HTInvokeMethod(CMPIMethodMI *mi, const CMPIContext *ctx, const
     if (strcmp(method, "CloneKeep") == 0) return cloneString(rslt, 0);
     if (strcmp(method, "CloneRelease") == 0) return cloneString(rslt, 1);
     if (strcmp(method, "Message") == 0) return message(rslt);
+    if (strcmp(method, "LateReturn") == 0) {
+        CMPIUint32 v = 1;
+        CMReturnDone(rslt);
+        return returnUint(rslt, v);
+    }
     if (strcmp(method, "StartIndications") == 0) {
         CMPIData n = CMGetArg(in, "Count", NULL);
         return returnUint(rslt, (CMPIUint32)startSender(ctx, n.value.uint32));
