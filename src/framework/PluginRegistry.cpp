@@ -7,6 +7,7 @@
 
 #include <new>
 
+#include "providers/device/CachedDeviceClasses.h"
 #include "providers/device/VEX_ApplicationSoftwareIdentity.h"
 #include "providers/device/VEX_ElementConformsToProfile.h"
 #include "providers/device/VEX_HostComputerSystem.h"
@@ -17,6 +18,8 @@
 #include "providers/device/VEX_RegisteredProfile.h"
 #include "providers/device/VEX_RegisteredSubProfile.h"
 #include "providers/device/VEX_SubProfileRequiresProfile.h"
+#include "providers/storage/CachedStorageClasses.h"
+#include "providers/storage/VEX_ConcreteJob.h"
 
 namespace vex::cim::fwf {
 
@@ -153,7 +156,7 @@ const PluginRegistration kRegistry[] = {
     {"vex_driversoftwareidentity", kInstance, kImpl, nullptr},
     {"vex_firmwaresoftwareidentity", kInstance, kImpl, nullptr},
     {"vex_biossoftwareidentity", kInstance, kImpl, nullptr},
-    {"vex_controllerview", kInstance, kImpl, nullptr},
+    {"vex_controllerview", kInstance, kImpl, &make<VEXControllerComputerSystemView>},
     {"vex_primordialstoragepoolview", kInstance, kImpl, nullptr},
     {"vex_viewcapabilities", kInstance, kImpl, nullptr},
     {"vex_dedicatedstorageredundancyset", kInstance, kImpl, nullptr},
@@ -164,13 +167,13 @@ const PluginRegistration kRegistry[] = {
     {"vex_targetscsiprotocolendpoint", kInstance, kImpl, nullptr},
     {"vex_failoverstorageextentscollection", kInstance, kImpl, nullptr},
     {"vex_spareconfigurationcapabilities", kInstance, kImpl, nullptr},
-    {"vex_diskdrive", kInstance, kImpl, nullptr},
+    {"vex_diskdrive", kInstance, kImpl, &make<VEXDiskDriveClass>},
     {"vex_diskdriveataport", kInstance, kImpl, nullptr},
     {"vex_diskdriveataprotocolendpoint", kInstance, kImpl, nullptr},
     {"vex_diskdrivephysicalpackage", kInstance, kImpl, nullptr},
     {"vex_diskdrivesasport", kInstance, kImpl, nullptr},
     {"vex_diskdrivescsiprotocolendpoint", kInstance, kImpl, nullptr},
-    {"vex_enclosurechassis", kInstance, kImpl, nullptr},
+    {"vex_enclosurechassis", kInstance, kImpl, &make<VEXChasis>},
     {"vex_enclosurefan", kInstance, kImpl, nullptr},
     {"vex_enclosurepowersupply", kInstance, kImpl, nullptr},
     {"vex_enclosuresensor", kInstance, kImpl, nullptr},
@@ -185,34 +188,34 @@ const PluginRegistration kRegistry[] = {
     {"vex_concretefixedstoragesettings", kInstance, kImpl, nullptr},
     {"vex_completedjob", kInstance, kImpl, nullptr},
     {"vex_diskdrivesoftwareidentity", kInstance, kImpl, nullptr},
-    {"vex_initiatorsasphy", kInstance, kImpl, nullptr},
-    {"vex_sasinitiatorport", kInstance, kImpl, nullptr},
+    {"vex_initiatorsasphy", kInstance, kImpl, &make<VEXInitiatorSASPhy>},
+    {"vex_sasinitiatorport", kInstance, kImpl, &make<VEXSASInitiatorPort>},
     {"vex_initiatorataprotocolendpoint", kInstance, kImpl, nullptr},
     {"vex_initiatorscsiprotocolendpoint", kInstance, kImpl, nullptr},
     // Classes with extrinsic methods (all but the spare configuration service are also cached).
-    {"vex_controllercomputersystem", kMethod, kBoth, nullptr},
-    {"vex_portcontroller", kMethod, kImpl, nullptr},
-    {"vex_alarmdevice", kMethod, kImpl, nullptr},
-    {"vex_card", kMethod, kImpl, nullptr},
-    {"vex_product", kMethod, kImpl, nullptr},
-    {"vex_scsiprotocolcontroller", kMethod, kImpl, nullptr},
+    {"vex_controllercomputersystem", kMethod, kBoth, &make<VEXControllerComputerSystem>},
+    {"vex_portcontroller", kMethod, kImpl, &make<VEXPortController>},
+    {"vex_alarmdevice", kMethod, kImpl, &make<VEXAlarmDevice>},
+    {"vex_card", kMethod, kImpl, &make<VEXCard>},
+    {"vex_product", kMethod, kImpl, &make<VEXProduct>},
+    {"vex_scsiprotocolcontroller", kMethod, kImpl, &make<VEXSCSIProtocolController>},
     {"vex_spareconfigurationservice", kMethod, kImpl, nullptr},
-    {"vex_battery", kMethod, kImpl, nullptr},
+    {"vex_battery", kMethod, kImpl, &make<VEXBattery>},
     // Cached instance classes.
-    {"vex_diskdriveview", kCached, kImpl, nullptr},
-    {"vex_storagevolumeview", kCached, kImpl, nullptr},
-    {"vex_concretestoragepoolview", kCached, kImpl, nullptr},
-    {"vex_primordialstorageextent", kCached, kImpl, nullptr},
-    {"vex_datargetport", kCached, kImpl, nullptr},
-    {"vex_seselement", kCached, kImpl, nullptr},
-    {"vex_storagevolume", kCached, kImpl, nullptr},
-    {"vex_concretestoragepool", kCached, kImpl, nullptr},
-    {"vex_primordialfixedstoragesettings", kCached, kImpl, nullptr},
-    {"vex_primordialgeneratedstoragesettings", kCached, kImpl, nullptr},
-    {"vex_concretegeneratedstoragesettings", kCached, kImpl, nullptr},
-    {"vex_concretejob", kCached, kImpl, nullptr},
-    {"vex_sourcestoragepoolview", kCached, kImpl, nullptr},
-    {"vex_eventindication", kCached, kImpl, nullptr},
+    {"vex_diskdriveview", kCached, kImpl, &make<VEXDiskDriveView>},
+    {"vex_storagevolumeview", kCached, kImpl, &make<VEXStorageVolumeView>},
+    {"vex_concretestoragepoolview", kCached, kImpl, &make<VEXConcreteStoragePoolView>},
+    {"vex_primordialstorageextent", kCached, kImpl, &make<VEXPrimordialStorageExtent>},
+    {"vex_datargetport", kCached, kImpl, &make<VEXDATargetPort>},
+    {"vex_seselement", kCached, kImpl, &make<VEXSESElement>},
+    {"vex_storagevolume", kCached, kImpl, &make<VEX_StorageVolume>},
+    {"vex_concretestoragepool", kCached, kImpl, &make<VEX_ConcreteStoragePool>},
+    {"vex_primordialfixedstoragesettings", kCached, kImpl, &make<VEX_PrimordialFixedStorageSettings>},
+    {"vex_primordialgeneratedstoragesettings", kCached, kImpl, &make<VEX_PrimordialGeneratedStorageSettings>},
+    {"vex_concretegeneratedstoragesettings", kCached, kImpl, &make<VEX_ConcreteGeneratedStorageSettings>},
+    {"vex_concretejob", kCached, kImpl, &make<VEX_ConcreteJob>},
+    {"vex_sourcestoragepoolview", kCached, kImpl, &make<VEXSourceStoragePoolView>},
+    {"vex_eventindication", kCached, kImpl, &make<VEX_EventIndication>},
 };
 // clang-format on
 
