@@ -21,6 +21,7 @@
 #include <memory>
 #include <string>
 
+#include "controller/VexCacheManager.h"
 #include "controller/VexFSAInterface.h"
 #include "framework/CIMNamespaces.h"
 #include "framework/FrameworkFacade.h"
@@ -59,11 +60,15 @@ double secondsOf(const std::function<void()>& work) {
     return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
 }
 
-// Rebuilds the in-process cache from the current system.
+// Rebuilds the in-process cache from the current system, as the refresh
+// thread does (registered as the update thread, so that readers keep the
+// served repository until the new one is complete).
 void rebuildInProcess() {
     vex::cim::fwf::VexFSAInterface* fsa = vex::cim::fwf::VexFSAInterface::getInstance();
     fsa->terminate();  // drops the library handle: the next start opens the current system
+    vex::cim::fwf::VexCacheManager::initCacheUpdate();
     fsa->initialize(true, true, false, false);
+    vex::cim::fwf::VexCacheManager::exitCacheUpdate();
 }
 
 std::size_t enumerateInProcess(const std::string& className) {
