@@ -10,69 +10,48 @@ namespace vex::datapath {
 
 namespace {
 
-using storlib::Adapter;
-using storlib::FilterCollection;
+using Counts = std::map<std::string, std::size_t>;
 
-struct ControllerTally {
-    std::size_t devices = 0;     // hard drives and enclosure processors
-    std::size_t logicalDrives = 0;
-    std::size_t oversizedPools = 0;  // over the legacy size limit without extended LBA
-    std::size_t enclosures = 0;
-    std::size_t sesElements = 0;
-    std::size_t phys = 0;
-    std::size_t connectors = 0;
-    std::size_t batteries = 0;
-    std::size_t runningTasks = 0;
-};
-
-std::size_t count(const Adapter& adapter, const char* className) {
-    return FilterCollection(adapter, className).size();
+void add(Counts& counts, std::initializer_list<const char*> classes, std::size_t n) {
+    for (const char* cls : classes) {
+        counts[cls] += n;
+    }
 }
 
-ControllerTally tally(const Adapter& adapter) {
-    ControllerTally t;
-    t.devices = count(adapter, "PhysicalDevice");
-    t.enclosures = count(adapter, "SES2EnclosureDevice");
-    t.sesElements = count(adapter, "SESElement");
-    t.phys = count(adapter, "SASPhy");
-    t.connectors = count(adapter, "SASConnector");
-    t.batteries = count(adapter, "Battery");
-    for (const storlib::RaidObject* object : FilterCollection(adapter, "LogicalDrive")) {
-        const auto* logicalDrive = object->as<storlib::LogicalDrive>();
-        ++t.logicalDrives;
-        if (logicalDrive->getDataSizeMB() > adapter.getLegacyLbaLimitMB() && !logicalDrive->hasExtendedLba()) {
-            ++t.oversizedPools;
-        }
-    }
-    for (const storlib::RaidObject* object : FilterCollection(adapter, "Progress")) {
-        if (object->as<storlib::Progress>()->getTaskState() == storlib::TaskState::Running) {
-            ++t.runningTasks;
-        }
-    }
-    return t;
+std::size_t count(const storlib::Adapter& adapter, const char* className) {
+    return storlib::FilterCollection(adapter, className).size();
 }
 
-void addController(const ControllerTally& t, std::map<std::string, std::size_t>& counts) {
-    for (const char* cls : {"VEX_StorageVolume", "VEX_StorageVolumeView", "VEX_PrimordialFixedStorageSettings"}) {
-        counts[cls] += t.logicalDrives;
+// Logical drives over the legacy size limit without extended LBA are source
+// pools; the others concrete pools.
+void addLogicalDrives(const storlib::Adapter& adapter, Counts& counts) {
+    for (const storlib::RaidObject* object : storlib::FilterCollection(adapter, "LogicalDrive")) {
+        const auto* drive = object->as<storlib::LogicalDrive>();
+        const bool source = drive->getDataSizeMB() > adapter.getLegacyLbaLimitMB() && !drive->hasExtendedLba();
+        add(counts, {"VEX_StorageVolume", "VEX_StorageVolumeView", "VEX_PrimordialFixedStorageSettings"}, 1);
+        if (source) {
+            add(counts, {"VEX_SourceStoragePoolView"}, 1);
+        } else {
+            add(counts, {"VEX_ConcreteStoragePool", "VEX_ConcreteStoragePoolView"}, 1);
+        }
     }
-    counts["VEX_ConcreteStoragePool"] += t.logicalDrives - t.oversizedPools;
-    counts["VEX_ConcreteStoragePoolView"] += t.logicalDrives - t.oversizedPools;
-    counts["VEX_SourceStoragePoolView"] += t.oversizedPools;
-    for (const char* cls : {"VEX_PrimordialStorageExtent", "VEX_DiskDrive", "VEX_DiskDriveView"}) {
-        counts[cls] += t.devices;
+}
+
+void addController(const storlib::Adapter& adapter, Counts& counts) {
+    add(counts, {"VEX_ControllerComputerSystem", "VEX_ControllerView", "VEX_Card", "VEX_Product", "VEX_PortController",
+                 "VEX_SCSIProtocolController", "VEX_AlarmDevice", "VEX_DATargetPort"},
+        1);
+    // Hard drives and enclosure processors alike.
+    add(counts, {"VEX_PrimordialStorageExtent", "VEX_DiskDrive", "VEX_DiskDriveView"}, count(adapter, "PhysicalDevice"));
+    add(counts, {"VEX_Battery"}, count(adapter, "Battery"));
+    add(counts, {"VEX_SASInitiatorPort"}, count(adapter, "SASConnector"));
+    add(counts, {"VEX_InitiatorSASPhy"}, count(adapter, "SASPhy"));
+    add(counts, {"VEX_EnclosureChassis"}, count(adapter, "SES2EnclosureDevice"));
+    add(counts, {"VEX_SESElement"}, count(adapter, "SESElement"));
+    for (const storlib::RaidObject* object : storlib::FilterCollection(adapter, "Progress")) {
+        add(counts, {"VEX_ConcreteJob"}, object->as<storlib::Progress>()->getTaskState() == storlib::TaskState::Running);
     }
-    for (const char* cls : {"VEX_ControllerComputerSystem", "VEX_ControllerView", "VEX_Card", "VEX_Product",
-                            "VEX_PortController", "VEX_SCSIProtocolController", "VEX_AlarmDevice",
-                            "VEX_DATargetPort"}) {
-        counts[cls] += 1;
-    }
-    counts["VEX_Battery"] += t.batteries;
-    counts["VEX_SASInitiatorPort"] += t.connectors;
-    counts["VEX_InitiatorSASPhy"] += t.phys;
-    counts["VEX_EnclosureChassis"] += t.enclosures;
-    counts["VEX_SESElement"] += t.sesElements;
-    counts["VEX_ConcreteJob"] += t.runningTasks;
+    addLogicalDrives(adapter, counts);
 }
 
 }  // namespace
@@ -80,12 +59,12 @@ void addController(const ControllerTally& t, std::map<std::string, std::size_t>&
 std::map<std::string, std::size_t> expectedInstanceCounts(const storlib::SystemConfig& system) {
     // Nothing from the controllers makes the indication channel's instances or
     // the settings of CreateSetting: those classes stay at 0.
-    std::map<std::string, std::size_t> counts;
+    Counts counts;
     for (const vex::cim::fwf::CachedClassRow& row : vex::cim::fwf::kCachedClasses) {
         counts[row.className] = 0;
     }
     for (std::size_t i = 0; i < system.getAdapterCount(); ++i) {
-        addController(tally(*system.getAdapter(i)), counts);
+        addController(*system.getAdapter(i), counts);
     }
     return counts;
 }

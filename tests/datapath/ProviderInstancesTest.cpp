@@ -5,9 +5,9 @@
 #include <fstream>
 #include <map>
 
-#include "ClassKeys.h"
 #include "ExpectedCounts.h"
 #include "ProviderFixture.h"
+#include "controller/CachedClassKeys.h"
 
 namespace vex::datapath {
 namespace {
@@ -15,6 +15,21 @@ namespace {
 using cmpihost::Instance;
 using cmpihost::ObjectPath;
 using cmpihost::Response;
+
+// The CIM keys of a class, as the key table of the cached classes lists them.
+std::set<std::string> keysOfClass(const std::string& className) {
+    std::set<std::string> keys;
+    for (std::size_t i = 0; i < cim::fwf::kCachedClassKeyCount; ++i) {
+        if (className == cim::fwf::kCachedClassKeys[i].className) {
+            for (const char* key : cim::fwf::kCachedClassKeys[i].keys) {
+                if (key != nullptr) {
+                    keys.insert(key);
+                }
+            }
+        }
+    }
+    return keys;
+}
 
 class ProviderInstancesTest : public ProviderTest {
 protected:
