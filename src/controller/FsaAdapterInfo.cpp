@@ -38,7 +38,6 @@ void VexFSAInterface::updateAdapterinfo(int index, fsaCIMInstanceWrapper& instan
     if (!partial) {
         fsamap::setInfoFromFsaEnum(controller, instance);
     }
-    m_currentController = index;
     requireLibraryHandle(getStorLib());
     if (controller.adapter == nullptr || controller.adapter->getAdapterStatus() != 0) {
         return;

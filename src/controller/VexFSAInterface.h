@@ -165,7 +165,6 @@ private:
     std::unique_ptr<storlib::StorLib> m_ownLibrary;  // opened here while no monitor shares one
     std::atomic<unsigned long> m_controllerCount{0};
     std::map<std::string, routineInfo> m_routines;
-    int m_currentController = 0;  // the controller being read (under the StorLib guard)
     FsaEventLink m_eventLink;
 
     static std::atomic<VexFSAInterface*> pVexFSAInterface;
