@@ -1,0 +1,135 @@
+// The provider serves what its schema declares. On the demo system (clock
+// stopped) every class that has a plug-in is enumerated in each namespace
+// it is registered in, as an object manager would ask for it, and each
+// instance and instance name is checked against the class declaration.
+// Registered classes whose plug-in is not built are refused by the
+// provider as invalid classes; they are checked once they are built.
+#include <gtest/gtest.h>
+
+#include <cmpihost/Host.h>
+
+#include <cstdlib>
+#include <filesystem>
+#include <memory>
+#include <set>
+
+#include "BuiltinSchema.h"
+#include "InstanceConformance.h"
+#include "framework/PluginRegistry.h"
+
+namespace vex::moftest {
+namespace {
+
+using cmpihost::ObjectPath;
+using cmpihost::Response;
+using cmpihost::Value;
+using mof::builtinSchema;
+
+const char* const kNamespaces[] = {mof::kImplementationNamespace, mof::kInteropNamespace};
+
+class ConformanceTest : public ::testing::Test {
+protected:
+    static void SetUpTestSuite() {
+        char pattern[] = "/tmp/vex-conformance-XXXXXX";
+        s_stateDir = mkdtemp(pattern);
+        setenv("STORVEX_SYSTEM", VEX_DEMO_SYSTEM, 1);
+        setenv("STORVEX_STATE_DIR", s_stateDir.c_str(), 1);
+        setenv("STORVEX_TIME_SCALE", "0", 1);
+        s_host = new cmpihost::Host(cmpihost::HostConfig::pegasus214());
+        for (const mof::ClassDecl& cls : builtinSchema().classes()) s_host->classes().add(cls.name, cls.superClass);
+        for (const auto& [cls, super] : builtinSchema().chains().links()) {
+            if (!super.empty()) s_host->classes().add(cls, super);
+        }
+        ObjectPath smis(mof::kInteropNamespace, "PG_RegisteredProfile");
+        smis.addKey("InstanceID", Value::string("SNIA+SMI-S+1.5.0"));
+        s_host->repository().addPath(smis);
+        const cmpihost::Status loaded = s_host->load(VEX_PROVIDER_SO, "vexRAIDProvider15");
+        ASSERT_TRUE(loaded.ok()) << loaded.toString();
+    }
+
+    static void TearDownTestSuite() {
+        delete s_host;
+        s_host = nullptr;
+        std::error_code ignored;
+        std::filesystem::remove_all(s_stateDir, ignored);
+    }
+
+    // Each registered class with a plug-in, in each namespace it is
+    // registered in: body(class, namespace).
+    template <typename Body>
+    static void forEachServedClass(Body body) {
+        const cim::fwf::PluginRegistration* rows = cim::fwf::pluginRegistrations();
+        for (std::size_t i = 0; i < cim::fwf::pluginRegistrationCount(); ++i) {
+            const mof::ClassDecl* cls = builtinSchema().find(rows[i].name);
+            if (rows[i].factory == nullptr || cls == nullptr) continue;
+            for (const char* ns : kNamespaces) {
+                if (builtinSchema().servedIn(cls->name, ns)) body(*cls, ns);
+            }
+        }
+    }
+
+    static cmpihost::Host& cimom() { return *s_host; }
+
+    static cmpihost::Host* s_host;
+    static std::string s_stateDir;
+};
+
+cmpihost::Host* ConformanceTest::s_host = nullptr;
+std::string ConformanceTest::s_stateDir;
+
+// Departures are listed once, however many instances show them.
+std::string listed(const std::set<std::string>& problems) {
+    std::string out;
+    for (const std::string& p : problems) out += "\n  " + p;
+    return out;
+}
+
+TEST_F(ConformanceTest, InstancesAreWhatTheirClassDeclares) {
+    std::set<std::string> problems;
+    std::size_t classes = 0, instances = 0;
+    forEachServedClass([&](const mof::ClassDecl& cls, const char* ns) {
+        const Response r = cimom().enumerateInstances(ObjectPath(ns, cls.name));
+        if (!r.ok()) {
+            problems.insert(cls.name + " in " + ns + ": " + r.status.toString());
+            return;
+        }
+        ++classes;
+        for (const cmpihost::Instance& instance : r.instances) {
+            ++instances;
+            for (std::string& p : instanceProblems(instance, cls, builtinSchema())) problems.insert(std::move(p));
+        }
+    });
+    EXPECT_TRUE(problems.empty()) << problems.size() << " departures in " << classes << " classes, "
+                                  << instances << " instances:" << listed(problems);
+    EXPECT_GT(instances, 100u) << "the demo system serves too little to check";
+}
+
+TEST_F(ConformanceTest, InstanceNamesCarryExactlyTheKeys) {
+    std::set<std::string> problems;
+    forEachServedClass([&](const mof::ClassDecl& cls, const char* ns) {
+        const Response r = cimom().enumerateInstanceNames(ObjectPath(ns, cls.name));
+        if (!r.ok()) return;  // reported by the enumeration of instances
+        for (const ObjectPath& path : r.paths) {
+            for (std::string& p : pathProblems(path, cls)) problems.insert(std::move(p));
+        }
+    });
+    EXPECT_TRUE(problems.empty()) << listed(problems);
+}
+
+TEST_F(ConformanceTest, AnInstanceFetchedByItsNameIsTheOneEnumerated) {
+    std::set<std::string> problems;
+    forEachServedClass([&](const mof::ClassDecl& cls, const char* ns) {
+        if (cls.isAssociation()) return;
+        const Response all = cimom().enumerateInstances(ObjectPath(ns, cls.name));
+        if (!all.ok() || all.instances.empty()) return;
+        const cmpihost::Instance& first = all.instances.front();
+        const Response one = cimom().getInstance(first.path);
+        if (!one.ok() || one.instances.size() != 1 || one.instances.front().properties != first.properties) {
+            problems.insert(cls.name + " in " + ns + ": " + one.status.toString() + " for " + first.path.toString());
+        }
+    });
+    EXPECT_TRUE(problems.empty()) << listed(problems);
+}
+
+}  // namespace
+}  // namespace vex::moftest
