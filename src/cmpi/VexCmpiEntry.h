@@ -31,11 +31,13 @@ CMPIStatus missingAdapter();
 void logOutcome(const char* operation, const CMPIStatus& status);
 
 // The trace lines of one entry. The exit line of the invalid-argument path
-// is the normal exit line unless given.
+// is the normal exit line unless given; `invalidNote`, when given, is logged
+// at level 5 ahead of the usual invalid-argument line.
 struct Traces {
     const char* enter;
     const char* exit;
     const char* invalidExit = nullptr;
+    const char* invalidNote = nullptr;
 };
 
 // Serves one request through the adapter; `call(adapter, broker, status)`
@@ -44,6 +46,9 @@ template <typename Call>
 CMPIStatus serve(const Traces& traces, bool argumentsValid, const char* operation, Call call) {
     TkzTrace(traces.enter);
     if (!argumentsValid) {
+        if (traces.invalidNote != nullptr) {
+            TkzLogMsg(TKZ_LOG_INFO, "%s", traces.invalidNote);
+        }
         CMPIStatus status = invalidParameters();
         TkzTrace(traces.invalidExit != nullptr ? traces.invalidExit : traces.exit);
         return status;

@@ -48,11 +48,9 @@ CMPIStatus VexCmpiMIMustPoll(CMPIIndicationMI* mi, const CMPIContext* ctx,
 CMPIStatus VexCmpiMIActivateFilter(CMPIIndicationMI* mi, const CMPIContext* ctx,
                                    const CMPISelectExp* filter, const char* className,
                                    const CMPIObjectPath* classPath, CMPIBoolean firstActivation) {
-    if (mi == nullptr) {
-        TkzLogMsg(TKZ_LOG_INFO, "INVALID : Indication MI");
-    }
     return entry::serve({"Entering CMPIMI VexCmpiMIActivateFilter()",
-                         "Exiting CMPIMI VexCmpiMIActivateFilter()"},
+                         "Exiting CMPIMI VexCmpiMIActivateFilter()", nullptr,
+                         "INVALID : Indication MI"},
                         mi != nullptr, "ActivateFilter",
                         [&](CMPIAdapter& adapter, const CMPIBroker* broker, CMPIStatus* status) {
                             adapter.ActivateFilter(mi, ctx, filter, className, classPath,

@@ -86,20 +86,6 @@ TEST_F(HelperInstanceTest, OneValueOfTheWrongTypeFailsTheWholeInstance) {
                             "HealthState due to Type MisMatch ->20."));
 }
 
-TEST_F(HelperInstanceTest, TypesOutsideTheTableAreNotSupported) {
-    for (auto bad : {prop<double>("Ratio", 0.5, fwf::CIM_REAL64),
-                     prop<fwf::CIMInstance>("Embedded", fwf::CIMInstance(), fwf::CIM_INSTANCE)}) {
-        fwf::CIMInstance inst = volume();
-        inst.addProperty(bad);
-        inRequest([&](const CMPIBroker* broker) {
-            auto e = thrownBy([&] { CMPIHelper::FrameworkInstanceToCMPIInstance(inst, broker, nullptr); });
-            ASSERT_TRUE(e.has_value()) << bad.getName();
-            EXPECT_EQ(e->getErrCode(), 7u);
-            EXPECT_EQ(e->getErrMessage(), " :: Not supported");
-        });
-    }
-}
-
 TEST_F(HelperInstanceTest, DatetimeGoesOutAsCmpiDatetimeOrElseAsItsText) {
     fwf::CIMInstance inst = volume();
     inst.addProperty(prop<std::string>("InstallDate", "20240102030405.000006+530", fwf::CIM_DATETIME));

@@ -1,10 +1,10 @@
 // Captures the provider's log and trace lines in the CMPI tests.
 //
 // In-process tests link the code under test with --wrap=TkzLogMsg and
-// --wrap=TkzTrace (WrapShim.cpp). Tests of the loaded provider define
-// TkzLogMsg and TkzTrace in the test program and export them
-// (InterposeShim.cpp): the provider's calls of its own exported Tkz functions
-// bind to the program's definitions, as with any preloaded symbol.
+// --wrap=TkzTrace. Tests of the loaded provider define TkzLogMsg and TkzTrace
+// in the test program and export them: the provider's calls of its own
+// exported Tkz functions bind to the program's definitions, as with any
+// preloaded symbol. See LogShim.cpp.
 #ifndef VEX_TESTS_CMPI_LOGCAPTURE_H
 #define VEX_TESTS_CMPI_LOGCAPTURE_H
 

@@ -65,23 +65,18 @@ TEST_F(ProviderAccessTest, OnlyMembersOfTheRootGroupRunMethods) {
         EXPECT_TRUE(passed(r)) << user << ": " << r.status.toString();
         EXPECT_TRUE(traced("Entering CMPIAdapter::InvokeMethod"));
     }
-    for (const char* user : {"alice", "toor", "nobody"}) {
+    // A principal of several words is checked by its first word.
+    EXPECT_TRUE(passed(invokeAs(Principal::user("root as admin"))));
+    EXPECT_TRUE(loggedAt(5, "UserName = root, HostName = \\\\" + hostName()));
+    for (const char* user : {"alice", "toor", "nobody", "alice root"}) {
         clearLog();
         Response r = invokeAs(Principal::user(user));
+        std::string login = std::string(user).substr(0, std::string(user).find(' '));
         EXPECT_TRUE(hasStatus(r, CMPI_RC_ERR_ACCESS_DENIED,
-                              std::string(user) + " : is not a member of Administrator/root"));
+                              login + " : is not a member of Administrator/root"));
         EXPECT_TRUE(r.data.empty()) << "no method ran for " << user;
         EXPECT_FALSE(logged("Entering FrameworkFacade invokeMethod()"));
     }
-}
-
-TEST_F(ProviderAccessTest, PrincipalIsCheckedByItsFirstWord) {
-    start();
-    Response alice = invokeAs(Principal::user("alice root"));
-    EXPECT_TRUE(hasStatus(alice, CMPI_RC_ERR_ACCESS_DENIED,
-                          "alice : is not a member of Administrator/root"));
-    EXPECT_TRUE(loggedAt(5, "UserName = alice, HostName = \\\\" + hostName()));
-    EXPECT_TRUE(passed(invokeAs(Principal::user("root as admin"))));
 }
 
 TEST_F(ProviderAccessTest, ModificationsAreCheckedLikeMethods) {
@@ -103,17 +98,13 @@ TEST_F(ProviderAccessTest, ObjectManagerWithoutAuthenticationPasses) {
     EXPECT_TRUE(passed(invokeAs(Principal::user(""))));
 }
 
-TEST_F(ProviderAccessTest, MissingPrincipalIsAFailure) {
+TEST_F(ProviderAccessTest, NoPrincipalOrNoPasswordFileLetsNobodyIn) {
+    setenv("VEX_CMPI_PASSWD_FILE", "/nonexistent/passwd", 1);
     start();
     EXPECT_TRUE(hasStatus(invokeAs(Principal::absent()), CMPI_RC_ERR_FAILED,
                           "Failed to get context entry type CMPIPrinciple"));
     EXPECT_TRUE(hasStatus(modifyAs(Principal::absent()), CMPI_RC_ERR_FAILED,
                           "Failed to get context entry type CMPIPrinciple"));
-}
-
-TEST_F(ProviderAccessTest, UnreadablePasswordFileLetsNoNamedUserIn) {
-    setenv("VEX_CMPI_PASSWD_FILE", "/nonexistent/passwd", 1);
-    start();
     EXPECT_TRUE(hasStatus(invokeAs(Principal::user("root")), CMPI_RC_ERR_ACCESS_DENIED,
                           "root : is not a member of Administrator/root"));
 }

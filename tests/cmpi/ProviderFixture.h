@@ -39,6 +39,9 @@ private:
     std::unique_ptr<cmpihost::Host> m_host;
 };
 
+// Loads a fresh life of the provider into `host`.
+void loadProvider(cmpihost::Host& host);
+
 // The local host name, as the provider reads it.
 std::string hostName();
 

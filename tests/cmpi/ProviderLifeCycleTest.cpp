@@ -91,47 +91,33 @@ TEST_F(ProviderLifeCycleTest, FinalCleanupWithoutContextWarnsAndStillTearsDown) 
 }
 
 // The tables the object manager reads before calling anything.
-TEST_F(ProviderLifeCycleTest, MiTablesCarryTheirNamesAndEverySlot) {
+TEST_F(ProviderLifeCycleTest, MiTablesCarryTheirNames) {
     start();
     ASSERT_TRUE(cimom().createMI(MIKind::Instance).ok());
     void* library = dlopen(cimom().openedFile().c_str(), RTLD_NOW | RTLD_NOLOAD);
     ASSERT_NE(library, nullptr);
-    using Factory = void* (*)(const CMPIBroker*, const CMPIContext*, CMPIStatus*);
-    auto factory = [&](const char* name) {
-        return reinterpret_cast<Factory>(dlsym(library, name));
-    };
-    for (const char* kind : {"Instance", "Association", "Method", "Indication"}) {
-        std::string name = std::string("vexRAIDProvider15_Create_") + kind + "MI";
-        ASSERT_NE(factory(name.c_str()), nullptr) << name;
-    }
+    using Factory = CMPIInstanceMI* (*)(const CMPIBroker*, const CMPIContext*, CMPIStatus*);
+    const std::pair<const char*, const char*> expected[] = {
+        {"Instance", "instancevexRAIDProvider15"},
+        {"Association", "associationvexRAIDProvider15"},
+        {"Method", "methodvexRAIDProvider15"},
+        {"Indication", "IndicationvexRAIDProvider15"}};
     cimom().runInRequest([&](const CMPIBroker* broker, const CMPIContext* ctx) {
-        auto* inst = static_cast<CMPIInstanceMI*>(
-            factory("vexRAIDProvider15_Create_InstanceMI")(broker, ctx, nullptr));
-        auto* assoc = static_cast<CMPIAssociationMI*>(
-            factory("vexRAIDProvider15_Create_AssociationMI")(broker, ctx, nullptr));
-        auto* meth = static_cast<CMPIMethodMI*>(
-            factory("vexRAIDProvider15_Create_MethodMI")(broker, ctx, nullptr));
-        auto* ind = static_cast<CMPIIndicationMI*>(
-            factory("vexRAIDProvider15_Create_IndicationMI")(broker, ctx, nullptr));
-        EXPECT_STREQ(inst->ft->miName, "instancevexRAIDProvider15");
-        EXPECT_STREQ(assoc->ft->miName, "associationvexRAIDProvider15");
-        EXPECT_STREQ(meth->ft->miName, "methodvexRAIDProvider15");
-        EXPECT_STREQ(ind->ft->miName, "IndicationvexRAIDProvider15");
-        EXPECT_EQ(inst->ft->ftVersion, 200);
-        EXPECT_EQ(ind->ft->miVersion, 200);
-        EXPECT_EQ(inst->hdl, nullptr);
-        EXPECT_NE(inst->ft->execQuery, nullptr);
-        EXPECT_NE(assoc->ft->referenceNames, nullptr);
-        EXPECT_NE(meth->ft->invokeMethod, nullptr);
-        EXPECT_NE(ind->ft->disableIndications, nullptr);
-        // Balance the four factory calls made here.
-        inst->ft->cleanup(inst, ctx, 1);
-        assoc->ft->cleanup(assoc, ctx, 1);
-        meth->ft->cleanup(meth, ctx, 1);
-        ind->ft->cleanup(ind, ctx, 1);
+        for (const auto& [kind, miName] : expected) {
+            std::string symbol = std::string("vexRAIDProvider15_Create_") + kind + "MI";
+            auto factory = reinterpret_cast<Factory>(dlsym(library, symbol.c_str()));
+            ASSERT_NE(factory, nullptr) << symbol;
+            // Every MI table starts with the same three fields and cleanup.
+            CMPIInstanceMI* mi = factory(broker, ctx, nullptr);
+            EXPECT_EQ(mi->hdl, nullptr);
+            EXPECT_EQ(mi->ft->ftVersion, 200);
+            EXPECT_EQ(mi->ft->miVersion, 200);
+            EXPECT_STREQ(mi->ft->miName, miName);
+            EXPECT_TRUE(mi->ft->cleanup(mi, ctx, 1).rc == CMPI_RC_OK);
+        }
     });
     dlclose(library);
-    EXPECT_TRUE(probe().ok());
+    EXPECT_TRUE(probe().ok()) << "the host's own factory call is still unbalanced";
 }
 
 }  // namespace
