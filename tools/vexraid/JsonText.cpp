@@ -22,7 +22,8 @@ json scalar(const Value& value) {
         default: break;
     }
     if ((value.elementType() & CMPI_SINT) == CMPI_SINT) return value.asSigned();
-    return value.asUnsigned();
+    if ((value.elementType() & CMPI_SINT) == CMPI_UINT) return value.asUnsigned();
+    return "<" + cmpihost::typeName(value.elementType()) + ">";
 }
 
 }  // namespace

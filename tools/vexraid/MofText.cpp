@@ -31,7 +31,8 @@ std::string scalarText(const Value& value, int indent) {
         default: break;
     }
     if ((value.elementType() & CMPI_SINT) == CMPI_SINT) return std::to_string(value.asSigned());
-    return std::to_string(value.asUnsigned());
+    if ((value.elementType() & CMPI_SINT) == CMPI_UINT) return std::to_string(value.asUnsigned());
+    return "<" + cmpihost::typeName(value.elementType()) + ">";  // nothing MOF can write
 }
 
 }  // namespace
