@@ -40,6 +40,9 @@ private:
     std::unique_ptr<cmpihost::Host> m_host;
 };
 
+// Loads a fresh life of the built provider into host (every factory called).
+void loadFreshProvider(cmpihost::Host& host);
+
 // The names of the properties (or keys) of an instance or path.
 std::set<std::string> namesOf(const cmpihost::NamedValues& values);
 

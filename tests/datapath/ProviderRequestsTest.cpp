@@ -123,9 +123,7 @@ TEST_F(ProviderRequestsTest, MethodsRunAsControllerRoutines) {
 TEST(ProviderStartTest, WithoutControllersOnlyTheHostClassesAreServed) {
     SimulatedSystem none(shippedSystem("none.json"));
     cmpihost::Host host;
-    cmpihost::LoadOptions options;
-    options.freshLife = true;
-    ASSERT_TRUE(host.load(VEX_PROVIDER_SO, "vexRAIDProvider15", options).ok());
+    loadFreshProvider(host);
     EXPECT_EQ(host.enumerateInstances({kImplNs, "VEX_DiskDrive"}).status.rc, CMPI_RC_ERR_INVALID_CLASS);
     EXPECT_EQ(host.enumerateInstances({kImplNs, "VEX_ControllerView"}).status.rc, CMPI_RC_ERR_INVALID_CLASS);
     EXPECT_TRUE(host.enumerateInstances({"root/PG_InterOp", "VEX_RegisteredProfile"}).ok());
