@@ -1,5 +1,6 @@
 // Requests and factory calls from many threads at once (run under TSan).
 #include <atomic>
+#include <filesystem>
 #include <thread>
 #include <vector>
 
@@ -11,7 +12,7 @@ namespace {
 using cmpihost::MIKind;
 
 TEST(ProviderConcurrencyTest, FactoriesAndRequestsOnManyThreads) {
-    setenv("STORVEX_SYSTEM", VEX_STORLIB_SYSTEMS_DIR "/none.json", 1);
+    const std::string stateDir = useSimulatedSystem("none.json");
     clearLog();
     cmpihost::Host host;
     loadProvider(host);
@@ -48,6 +49,8 @@ TEST(ProviderConcurrencyTest, FactoriesAndRequestsOnManyThreads) {
     }
     EXPECT_EQ(failures.load(), 0);
     EXPECT_EQ(countLines("CMPIMI : Provider Initialized successfully"), 1);
+    host.unload();
+    std::filesystem::remove_all(stateDir);
 }
 
 }  // namespace

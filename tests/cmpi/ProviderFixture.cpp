@@ -4,17 +4,39 @@
 #include <unistd.h>
 
 #include <cstdlib>
+#include <filesystem>
 
 namespace vex::cmpitest {
+
+std::string useSimulatedSystem(const std::string& file) {
+    char pattern[] = "/tmp/vex-cmpi-XXXXXX";
+    const char* dir = mkdtemp(pattern);
+    setenv("STORVEX_SYSTEM", (std::string(VEX_STORLIB_SYSTEMS_DIR "/") + file).c_str(), 1);
+    setenv("STORVEX_STATE_DIR", dir != nullptr ? dir : "/tmp", 1);
+    setenv("STORVEX_TIME_SCALE", "0", 1);
+    return dir != nullptr ? dir : "";
+}
 
 void ProviderTest::SetUp() {
     // A controller-less system: the provider starts serving only the host,
     // profile and software classes.
-    setenv("STORVEX_SYSTEM", VEX_STORLIB_SYSTEMS_DIR "/none.json", 1);
+    useSystem("none.json");
     clearLog();
 }
 
-void ProviderTest::TearDown() { m_host.reset(); }
+void ProviderTest::useSystem(const std::string& file) {
+    if (!m_stateDir.empty()) {
+        std::filesystem::remove_all(m_stateDir);
+    }
+    m_stateDir = useSimulatedSystem(file);
+}
+
+void ProviderTest::TearDown() {
+    m_host.reset();
+    if (!m_stateDir.empty()) {
+        std::filesystem::remove_all(m_stateDir);
+    }
+}
 
 namespace {
 

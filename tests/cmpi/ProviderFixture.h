@@ -25,6 +25,10 @@ protected:
     void SetUp() override;
     void TearDown() override;
 
+    // The simulated system the next start finds (a file of storlib/systems);
+    // "none.json", a host without controllers, unless changed.
+    void useSystem(const std::string& file);
+
     // Loads a fresh life of the provider; with createAll every factory is
     // called at once (four factory calls).
     void start(cmpihost::HostConfig config = cmpihost::HostConfig::pegasus214(),
@@ -37,10 +41,15 @@ protected:
 
 private:
     std::unique_ptr<cmpihost::Host> m_host;
+    std::string m_stateDir;
 };
 
 // Loads a fresh life of the provider into `host`.
 void loadProvider(cmpihost::Host& host);
+
+// A controller-less simulated system whose state lives in a new directory
+// under /tmp; returns that directory.
+std::string useSimulatedSystem(const std::string& file);
 
 // The local host name, as the provider reads it.
 std::string hostName();

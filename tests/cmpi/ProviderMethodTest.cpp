@@ -38,5 +38,31 @@ TEST_F(ProviderMethodTest, FailureCodeBecomesTheReturnValue) {
     EXPECT_TRUE(unknown.status.message.has_value());
 }
 
+// On a system with controllers the controller's routines answer.
+TEST_F(ProviderMethodTest, CompletedCallReturnsItsValueAndOutArguments) {
+    cimom().unload();
+    useSystem("demo.json");
+    start();
+    Response controllers =
+        cimom().enumerateInstanceNames({kImplNs, "VEX_ControllerComputerSystem"});
+    ASSERT_TRUE(controllers.ok()) << controllers.status.toString();
+    ASSERT_FALSE(controllers.paths.empty());
+    const cmpihost::ObjectPath& controller = controllers.paths.front();
+
+    Response listed = cimom().invokeMethod(controller, "getRoutineList");
+    EXPECT_TRUE(hasStatus(listed, CMPI_RC_OK, ""));
+    EXPECT_EQ(listed.returnValue(), Value::uint32(0));
+    EXPECT_EQ(listed.doneCount, 1);
+    const Value* routines = cmpihost::findNamed(listed.outArgs, "Routine_List");
+    ASSERT_NE(routines, nullptr);
+    EXPECT_EQ(routines->type(), CMPI_stringA);
+    EXPECT_FALSE(routines->elements().empty());
+
+    // A routine that is not built in answers 1: not a completed call.
+    Response rescan = cimom().invokeMethod(controller, "Rescan");
+    EXPECT_TRUE(hasStatus(rescan, CMPI_RC_ERR_FAILED, " :: Operation Failed"));
+    EXPECT_EQ(rescan.returnValue(), Value::uint32(1));
+}
+
 }  // namespace
 }  // namespace vex::cmpitest
