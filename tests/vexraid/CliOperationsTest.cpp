@@ -87,7 +87,7 @@ TEST_F(CliOperationsTest, FollowsAssociationsFromTheHostPackage) {
 
 // The routines the provider runs are the methods the schema declares.
 TEST_F(CliOperationsTest, InvokesAMethodAndPrintsItsOutput) {
-    const json result = jsonOf({"cm", kController0, "getRoutineList"});
+    const json result = jsonOf({"--user", "root", "cm", kController0, "getRoutineList"});
     EXPECT_EQ(result["returnValue"], 0);
     const json& routines = result["outArgs"]["Routine_List"];
     ASSERT_TRUE(routines.is_array());

@@ -1,5 +1,6 @@
 #include "Session.h"
 
+#include <dlfcn.h>
 #include <pwd.h>
 #include <unistd.h>
 
@@ -42,6 +43,15 @@ void addCimomProfiles(cmpihost::InstanceRepository& repository) {
         path.addKey("InstanceID", cmpihost::Value::string(id));
         repository.addPath(path);
     }
+}
+
+// An object manager never unloads this provider (its cleanup answers "never
+// unload" until shutdown); the session does the same: after the terminating
+// cleanup the library stays mapped, so nothing of it is referenced from
+// unmapped memory while the process ends.
+void keepMapped(const cmpihost::Host& host) {
+    void* handle = dlopen(host.openedFile().c_str(), RTLD_NOW | RTLD_NOLOAD | RTLD_NODELETE);
+    if (handle != nullptr) dlclose(handle);
 }
 
 }  // namespace
@@ -88,6 +98,7 @@ Session::Session(const Options& options) : m_options(options) {
     if (!status.ok()) {
         throw CimError(status.rc, status.message.value_or("cannot load " + options.provider));
     }
+    keepMapped(*m_host);
 }
 
 Session::~Session() = default;
