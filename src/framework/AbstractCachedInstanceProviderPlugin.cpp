@@ -397,7 +397,7 @@ void AbstractCachedInstanceProviderPlugin::sendLifecycleIndication(_eVEXEventTyp
         return;
     }
     std::vector<CIMProperty> keys;
-    if (getKeysFromEventKeys(eventKeys, keys) != 0) {
+    if (getKeysFromEventKeys(eventKeys, keys) != 0 || keys.empty()) {
         TkzLogMsg(TKZ_LOG_DEBUG, "Failed to extract key Properties");
         return;
     }

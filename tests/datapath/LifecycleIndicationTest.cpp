@@ -21,6 +21,8 @@ protected:
     void SetUp() override { ASSERT_TRUE(facade().registerForEvent(&collect)); }
     void TearDown() override { facade().deRegisterForEvent(); }
 
+    static CIMProperty driveKey(const std::string& id) { return stringProperty("DDDeviceID", id, true); }
+
     // What the plug-in of className sends for one event about the object keyed by key.
     std::vector<CIMInstance> notify(const std::string& className, _eVEXObjectType type, int event, CIMProperty key) {
         gDelivered.clear();
@@ -33,7 +35,7 @@ protected:
 
 TEST_F(LifecycleIndicationTest, CreationCarriesTheClassPartOfTheCachedObject) {
     const std::string id = stringValueOf(enumerateThroughFacade("VEX_DiskDrive").front(), "DeviceID");
-    const auto sent = notify("VEX_DiskDrive", VEX_OBJ_PHYSICAL_DRIVE, VEX_EVENT_CREATED, stringProperty("DDDeviceID", id, true));
+    const auto sent = notify("VEX_DiskDrive", VEX_OBJ_PHYSICAL_DRIVE, VEX_EVENT_CREATED, driveKey(id));
     ASSERT_EQ(sent.size(), 1u);
     EXPECT_EQ(sent[0].getClassName(), "CIM_InstCreation");
     EXPECT_EQ(sent[0].getNameSpace(), "root/tkz/vex/smi_15");
@@ -43,14 +45,14 @@ TEST_F(LifecycleIndicationTest, CreationCarriesTheClassPartOfTheCachedObject) {
     EXPECT_EQ(stringValueOf(source, "DeviceID"), id);
     EXPECT_EQ(source.getPropertyByName("DDDeviceID"), nullptr);
     // An object the cache does not hold is not indicated.
-    EXPECT_TRUE(notify("VEX_DiskDrive", VEX_OBJ_PHYSICAL_DRIVE, VEX_EVENT_CREATED, stringProperty("DDDeviceID", "7_7_7", true)).empty());
+    EXPECT_TRUE(notify("VEX_DiskDrive", VEX_OBJ_PHYSICAL_DRIVE, VEX_EVENT_CREATED, driveKey("7_7_7")).empty());
 }
 
 // A deletion names the object without reading the cache; a finished job is
 // indicated although no completed-job class keeps its record yet, and job
 // events of kind 4 are not indicated.
 TEST_F(LifecycleIndicationTest, DeletionNamesTheObject) {
-    const auto sent = notify("VEX_DiskDrive", VEX_OBJ_PHYSICAL_DRIVE, VEX_EVENT_DELETED, stringProperty("DDDeviceID", "0_5_77", true));
+    const auto sent = notify("VEX_DiskDrive", VEX_OBJ_PHYSICAL_DRIVE, VEX_EVENT_DELETED, driveKey("0_5_77"));
     ASSERT_EQ(sent.size(), 1u);
     EXPECT_EQ(sent[0].getClassName(), "CIM_InstDeletion");
     EXPECT_EQ(sent[0].getPropertyByName("SourceInstance"), nullptr);
