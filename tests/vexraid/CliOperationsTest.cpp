@@ -1,6 +1,6 @@
 // vexraid end to end on the demo system: enumerations, exact values and a
 // get through JSON read back, polymorphic enumeration, associations, a method
-// call, the summary, jobs and indications.
+// call, a modification, the summary, jobs and indications.
 #include <gtest/gtest.h>
 
 #include <nlohmann/json.hpp>
@@ -97,6 +97,17 @@ TEST_F(CliOperationsTest, InvokesAMethodAndPrintsItsOutput) {
     for (const json& name : routines) {
         EXPECT_NE(controller->method(name.get<std::string>()), nullptr) << name << " is not declared";
     }
+}
+
+// An untyped value takes the type the property has; the change reaches the
+// controller and the next process sees it.
+TEST_F(CliOperationsTest, ModifiesAControllerSetting) {
+    CliRunner own;  // a state of its own: this changes the controller
+    const std::vector<std::string> get = {"--json", "gi", kController0, "-p", "CopyBack"};
+    EXPECT_EQ(json::parse(own(get).out)["properties"]["CopyBack"], false);
+    const Outcome modified = own({"--user", "root", "mi", kController0, "CopyBack=true"});
+    ASSERT_EQ(modified.exitCode, 0) << modified.err;
+    EXPECT_EQ(json::parse(own(get).out)["properties"]["CopyBack"], true);
 }
 
 TEST_F(CliOperationsTest, SummarisesTheSystem) {
