@@ -8,6 +8,12 @@
 
 namespace vex::cim::fwf {
 
+VEX_ElementConformsToProfile::VEX_ElementConformsToProfile()
+    : FixedEndsAssociation({"PG_RegisteredProfile",
+                            VEX_RegisteredProfile::kClassName,
+                            "ConformantStandard",
+                            "ManagedElement"}) {}
+
 using vex::cim::adap::cmpi::g_cimPGSMIS5RegProfObjPath;
 
 void VEX_ElementConformsToProfile::enumerateInstances(CIMObjectPath& classPath,
@@ -34,17 +40,5 @@ bool VEX_ElementConformsToProfile::MatchInstances(CIMInstance&, CIMInstance&,
                                                   std::vector<CIMProperty>&) {
     return true;
 }
-
-std::string VEX_ElementConformsToProfile::getAntecedent() { return "PG_RegisteredProfile"; }
-
-std::string VEX_ElementConformsToProfile::getDependent() {
-    return VEX_RegisteredProfile::kClassName;
-}
-
-std::string VEX_ElementConformsToProfile::getAntecedentPropertyName() {
-    return "ConformantStandard";
-}
-
-std::string VEX_ElementConformsToProfile::getDependentPropertyName() { return "ManagedElement"; }
 
 }  // namespace vex::cim::fwf

@@ -11,22 +11,20 @@
 #include <string>
 #include <vector>
 
-#include "framework/AbstractAssociationProviderPlugin.h"
+#include "framework/FixedEndsAssociation.h"
 
 namespace vex::cim::fwf {
 
-class VEX_ElementConformsToProfile : public AbstractAssociationProviderPlugin {
+class VEX_ElementConformsToProfile : public FixedEndsAssociation {
 public:
     static constexpr const char* kClassName = "VEX_ElementConformsToProfile";
+
+    VEX_ElementConformsToProfile();
 
     void enumerateInstances(CIMObjectPath& classPath, std::vector<CIMInstance>& out,
                             bool flag) override;
     bool MatchInstances(CIMInstance& antecedent, CIMInstance& dependent,
                         std::vector<CIMProperty>& extra) override;
-    std::string getAntecedent() override;
-    std::string getDependent() override;
-    std::string getAntecedentPropertyName() override;
-    std::string getDependentPropertyName() override;
 };
 
 }  // namespace vex::cim::fwf

@@ -7,26 +7,16 @@
 
 namespace vex::cim::fwf {
 
+VEX_HostComputerSystemConformsToProfile::VEX_HostComputerSystemConformsToProfile()
+    : FixedEndsAssociation({VEX_RegisteredProfile::kClassName,
+                            VEX_HostComputerSystem::kClassName,
+                            "ConformantStandard",
+                            "ManagedElement"}) {}
+
 bool VEX_HostComputerSystemConformsToProfile::MatchInstances(CIMInstance& antecedent,
                                                              CIMInstance& /*dependent*/,
                                                              std::vector<CIMProperty>& /*extra*/) {
     return stringValueOf(antecedent, "InstanceID") == profileInstanceID(providerProfile());
-}
-
-std::string VEX_HostComputerSystemConformsToProfile::getAntecedent() {
-    return VEX_RegisteredProfile::kClassName;
-}
-
-std::string VEX_HostComputerSystemConformsToProfile::getDependent() {
-    return VEX_HostComputerSystem::kClassName;
-}
-
-std::string VEX_HostComputerSystemConformsToProfile::getAntecedentPropertyName() {
-    return "ConformantStandard";
-}
-
-std::string VEX_HostComputerSystemConformsToProfile::getDependentPropertyName() {
-    return "ManagedElement";
 }
 
 }  // namespace vex::cim::fwf

@@ -6,22 +6,16 @@
 
 namespace vex::cim::fwf {
 
+VEX_HostComputerSystemPackage::VEX_HostComputerSystemPackage()
+    : FixedEndsAssociation({VEX_HostPhysicalPackage::kClassName,
+                            VEX_HostComputerSystem::kClassName,
+                            "Antecedent",
+                            "Dependent"}) {}
+
 bool VEX_HostComputerSystemPackage::MatchInstances(CIMInstance& antecedent,
                                                    CIMInstance& dependent,
                                                    std::vector<CIMProperty>& /*extra*/) {
     return stringValueOf(antecedent, "Tag") == stringValueOf(dependent, "Name");
 }
-
-std::string VEX_HostComputerSystemPackage::getAntecedent() {
-    return VEX_HostPhysicalPackage::kClassName;
-}
-
-std::string VEX_HostComputerSystemPackage::getDependent() {
-    return VEX_HostComputerSystem::kClassName;
-}
-
-std::string VEX_HostComputerSystemPackage::getAntecedentPropertyName() { return "Antecedent"; }
-
-std::string VEX_HostComputerSystemPackage::getDependentPropertyName() { return "Dependent"; }
 
 }  // namespace vex::cim::fwf

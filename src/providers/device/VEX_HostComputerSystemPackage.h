@@ -7,20 +7,18 @@
 #include <string>
 #include <vector>
 
-#include "framework/AbstractAssociationProviderPlugin.h"
+#include "framework/FixedEndsAssociation.h"
 
 namespace vex::cim::fwf {
 
-class VEX_HostComputerSystemPackage : public AbstractAssociationProviderPlugin {
+class VEX_HostComputerSystemPackage : public FixedEndsAssociation {
 public:
     static constexpr const char* kClassName = "VEX_HostComputerSystemPackage";
 
+    VEX_HostComputerSystemPackage();
+
     bool MatchInstances(CIMInstance& antecedent, CIMInstance& dependent,
                         std::vector<CIMProperty>& extra) override;
-    std::string getAntecedent() override;
-    std::string getDependent() override;
-    std::string getAntecedentPropertyName() override;
-    std::string getDependentPropertyName() override;
 };
 
 }  // namespace vex::cim::fwf

@@ -8,6 +8,12 @@
 
 namespace vex::cim::fwf {
 
+VEX_RegProfileElementSoftwareIdentity::VEX_RegProfileElementSoftwareIdentity()
+    : FixedEndsAssociation({VEX_ApplicationSoftwareIdentity::kClassName,
+                            std::string(VEX_RegisteredProfile::kClassName) + "," + VEX_RegisteredSubProfile::kClassName,
+                            "Antecedent",
+                            "Dependent"}) {}
+
 namespace {
 
 // CIM_ElementSoftwareIdentity.ElementSoftwareStatus: the software is
@@ -25,23 +31,6 @@ bool VEX_RegProfileElementSoftwareIdentity::MatchInstances(CIMInstance& /*antece
                                     dependent.getClassName(), {}));
     extra.push_back(uint16ArrayProperty("ElementSoftwareStatus", {kCurrent, kInstalled}));
     return true;
-}
-
-std::string VEX_RegProfileElementSoftwareIdentity::getAntecedent() {
-    return VEX_ApplicationSoftwareIdentity::kClassName;
-}
-
-std::string VEX_RegProfileElementSoftwareIdentity::getDependent() {
-    return std::string(VEX_RegisteredProfile::kClassName) + "," +
-           VEX_RegisteredSubProfile::kClassName;
-}
-
-std::string VEX_RegProfileElementSoftwareIdentity::getAntecedentPropertyName() {
-    return "Antecedent";
-}
-
-std::string VEX_RegProfileElementSoftwareIdentity::getDependentPropertyName() {
-    return "Dependent";
 }
 
 }  // namespace vex::cim::fwf

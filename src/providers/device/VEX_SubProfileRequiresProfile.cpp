@@ -7,22 +7,16 @@
 
 namespace vex::cim::fwf {
 
+VEX_SubProfileRequiresProfile::VEX_SubProfileRequiresProfile()
+    : FixedEndsAssociation({VEX_RegisteredProfile::kClassName,
+                            VEX_RegisteredSubProfile::kClassName,
+                            "Antecedent",
+                            "Dependent"}) {}
+
 bool VEX_SubProfileRequiresProfile::MatchInstances(CIMInstance& antecedent,
                                                    CIMInstance& /*dependent*/,
                                                    std::vector<CIMProperty>& /*extra*/) {
     return stringValueOf(antecedent, "InstanceID") == profileInstanceID(providerProfile());
 }
-
-std::string VEX_SubProfileRequiresProfile::getAntecedent() {
-    return VEX_RegisteredProfile::kClassName;
-}
-
-std::string VEX_SubProfileRequiresProfile::getDependent() {
-    return VEX_RegisteredSubProfile::kClassName;
-}
-
-std::string VEX_SubProfileRequiresProfile::getAntecedentPropertyName() { return "Antecedent"; }
-
-std::string VEX_SubProfileRequiresProfile::getDependentPropertyName() { return "Dependent"; }
 
 }  // namespace vex::cim::fwf
