@@ -20,10 +20,14 @@ FrameworkFacade& facade(const char* operation) {
     return *facade;
 }
 
-// Every instance of every class of `classList`, each enumerated through the
-// facade with the request's host and namespace. A class that has no plug-in
-// is not served yet and contributes nothing.
-std::vector<CIMInstance> enumerateEnd(const CIMObjectPath& request, const std::string& classList) {
+CIMProperty referenceKey(const std::string& name, const CIMObjectPath& target) {
+    return CIMProperty(name, CIMValue<CIMObjectPath>(target), true, CIM_REFERENCE, false);
+}
+
+}  // namespace
+
+std::vector<CIMInstance> AbstractAssociationProviderPlugin::enumerateEnd(
+    const CIMObjectPath& request, const std::string& classList) {
     std::vector<CIMInstance> instances;
     FrameworkFacade& entry = facade("enumerateInstances");
     const unsigned int count = CommonFunctions::getStringCount(classList);
@@ -40,11 +44,12 @@ std::vector<CIMInstance> enumerateEnd(const CIMObjectPath& request, const std::s
     return instances;
 }
 
-CIMProperty referenceKey(const std::string& name, const CIMObjectPath& target) {
-    return CIMProperty(name, CIMValue<CIMObjectPath>(target), true, CIM_REFERENCE, false);
+std::vector<CIMInstance> AbstractAssociationProviderPlugin::candidateLinks(
+    const CIMObjectPath& /*source*/, CIMObjectPath& assocPath) {
+    std::vector<CIMInstance> all;
+    enumerateInstances(assocPath, all, false);
+    return all;
 }
-
-}  // namespace
 
 CIMInstance AbstractAssociationProviderPlugin::makeAssociationInstance(
     const CIMObjectPath& assocPath, const CIMObjectPath& antecedent,

@@ -78,6 +78,20 @@ public:
     virtual bool getResultantClass(const std::string& resultClass, std::string& out);
 
 protected:
+    // The association instances, with the host, namespace and class of
+    // `assocPath`, among which associationHelper looks for those that refer to
+    // `source`: by default every instance of the association. A family that
+    // can tell from the source which instances may refer to it returns only
+    // those (a superset of the referring ones, in enumeration order).
+    virtual std::vector<CIMInstance> candidateLinks(const CIMObjectPath& source,
+                                                    CIMObjectPath& assocPath);
+
+    // Every instance of the end classes of `classList`, enumerated through the
+    // facade with the host and namespace of `request`. A class without a
+    // plug-in contributes nothing.
+    static std::vector<CIMInstance> enumerateEnd(const CIMObjectPath& request,
+                                                 const std::string& classList);
+
     // Builds one association instance from the two end paths and the extras,
     // with the host, namespace and class of `assocPath`.
     CIMInstance makeAssociationInstance(const CIMObjectPath& assocPath,

@@ -120,8 +120,7 @@ std::vector<CIMInstance> AbstractAssociationProviderPlugin::associationHelper(
     CIMObjectPath assocPath(source.getHostName(), source.getNameSpace(), assocClass, {});
     TkzLogMsg(TKZ_LOG_DEBUG, "%s :: Association Object Path formed : %s", "associationHelper",
               assocPath.toString().c_str());
-    std::vector<CIMInstance> all;
-    enumerateInstances(assocPath, all, false);
+    std::vector<CIMInstance> all = candidateLinks(source, assocPath);
     TkzLogMsg(TKZ_LOG_DEBUG, "%s :: Association Objects retrieved : %d", "associationHelper",
               static_cast<int>(all.size()));
     if (all.empty()) {
