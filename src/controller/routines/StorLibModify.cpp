@@ -123,6 +123,9 @@ std::uint64_t StorLibModify::calculateMaxDataSize(std::uint64_t size, std::uint3
         const double d = getMinorDataStripesPerMajorCycle(n, level);
         const double p = getMinorParityStripesPerMajorCycle(n, level);
         const double e = m_sourceLevel == 7 ? 1 : 0;
+        if (d + p + e == 0) {
+            return 0;  // no valid geometry for this drive count
+        }
         return static_cast<std::uint64_t>(static_cast<double>(size) * d / (d + p + e));
     }
     case 11: case 17: {
