@@ -1,0 +1,20 @@
+#include "providers/storage/ServiceAssociations.h"
+
+namespace vex::cim::fwf {
+
+void controllerOfInstance(const CIMInstance& instance, std::vector<std::string>& keys) {
+    for (const char* name : {"SystemName", "InstanceID", "Name"}) {
+        const std::string text = keyText(instance, name);
+        const std::size_t separator = text.rfind('_');
+        if (separator == std::string::npos || separator + 1 == text.size()) {
+            continue;
+        }
+        const std::string number = text.substr(separator + 1);
+        if (number.find_first_not_of("0123456789") == std::string::npos) {
+            keys.push_back(number);
+            return;
+        }
+    }
+}
+
+}  // namespace vex::cim::fwf
