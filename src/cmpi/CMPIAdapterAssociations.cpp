@@ -14,6 +14,7 @@
 #include "cmpi/CMPIHelper.h"
 #include "framework/AbstractAssociationProviderPlugin.h"
 #include "framework/CommonFunctions.h"
+#include "framework/PluginRegistry.h"
 
 namespace vex::cim::adap::cmpi {
 
@@ -26,6 +27,18 @@ namespace {
 
 bool isSchemaClass(const std::string& className) {
     return fwf::CommonFunctions::toLower(className.substr(0, 4)) == "cim_";
+}
+
+// A registered association class whose plug-in is not part of this build.
+bool isUnbuiltAssociation(const std::string& className) {
+    const std::string name = fwf::CommonFunctions::toLower(className);
+    for (std::size_t i = 0; i < fwf::pluginRegistrationCount(); ++i) {
+        const fwf::PluginRegistration& row = fwf::pluginRegistrations()[i];
+        if (row.group == fwf::PluginGroup::Association && name == row.name) {
+            return row.factory == nullptr;
+        }
+    }
+    return false;
 }
 
 std::vector<std::string> namedAssociation(fwf::FrameworkFacade& facade,
@@ -41,6 +54,11 @@ std::vector<std::string> namedAssociation(fwf::FrameworkFacade& facade,
         CMPIHelper::GetAssociationClasses(source, assocClass.c_str(), broker, derived);
         if (!derived.empty() || isSchemaClass(assocClass)) {
             return derived;
+        }
+        if (isUnbuiltAssociation(assocClass)) {
+            TkzLogMsg(TKZ_LOG_ERROR, "%s :: no plug-in serves association class %s",
+                      "associationClasses", assocClass.c_str());
+            return {};  // links nothing yet; the other classes of the request still answer
         }
         TkzLogMsg(TKZ_LOG_ERROR, "Failed to get plugin for association class");
         throw fwf::CIMException(fwf::CIM_ERR_INVALID_CLASS,
