@@ -153,8 +153,8 @@ TEST(PluginRegistry, ListsEveryServedClassOnceInRegistrationOrder) {
         distinct.insert(row->name);
     }
     EXPECT_EQ(names, expected);
-    EXPECT_EQ(names.size(), 171u);
-    EXPECT_EQ(distinct.size(), 171u);
+    EXPECT_EQ(names.size(), 173u);
+    EXPECT_EQ(distinct.size(), 173u);
     ASSERT_GT(names.size(), kAlwaysRegisteredPlugins);
     EXPECT_EQ(names[kAlwaysRegisteredPlugins], "vex_controllercomputersystemconformstoprofile");
     EXPECT_EQ(names.back(), "vex_eventindication");

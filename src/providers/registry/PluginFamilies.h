@@ -36,11 +36,13 @@ constexpr PluginFactoryList factoryList(const PluginFactoryEntry (&entries)[N]) 
 extern const PluginFactoryList kHostProfileFactories;     // providers/device
 extern const PluginFactoryList kCachedDeviceFactories;    // providers/device
 extern const PluginFactoryList kCachedStorageFactories;   // providers/storage
+extern const PluginFactoryList kStorageModelFactories;    // providers/storage
 
 inline const PluginFactoryList* const kFamilies[] = {
     &kHostProfileFactories,
     &kCachedDeviceFactories,
     &kCachedStorageFactories,
+    &kStorageModelFactories,
 };
 
 }  // namespace vex::cim::fwf

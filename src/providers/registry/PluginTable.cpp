@@ -144,6 +144,8 @@ const PluginRow kRows[] = {
     {"vex_scsidevicesapimplementation", kAssociation, kImpl},
     {"vex_satadevicesapimplementation", kAssociation, kImpl},
     {"vex_container", kAssociation, kImpl},
+    {"vex_concretecomponentview", kAssociation, kImpl},
+    {"vex_primordialpooltoconcretepoolallocatedfromstoragepoolviewview", kAssociation, kImpl},
     // Other instance classes.
     {"vex_driversoftwareidentity", kInstance, kImpl},
     {"vex_firmwaresoftwareidentity", kInstance, kImpl},
