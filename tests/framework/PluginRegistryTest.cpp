@@ -64,7 +64,8 @@ const std::vector<std::string> kAssociationNames = {
     "vex_sasinitiatorportsystemdevice", "vex_sasphysystemdevice", "vex_associatedbattery",
     "vex_batterysystemdevice", "vex_parenttochildpoolviewview", "vex_satasapavailableforelement",
     "vex_sassapavailableforelement", "vex_scsidevicesapimplementation",
-    "vex_satadevicesapimplementation", "vex_container",
+    "vex_satadevicesapimplementation", "vex_container", "vex_concretecomponentview",
+    "vex_primordialpooltoconcretepoolallocatedfromstoragepoolviewview",
 };
 
 // Cached instance plug-ins
