@@ -3,6 +3,8 @@
 // element per member chunk in member order, the dedicated spares of the
 // logical drive, and "SPSpaceConsumed", the bytes its chunks take on drives
 // that are neither failed nor missing.
+#include <algorithm>
+
 #include <storlib/Chunk.h>
 
 #include "controller/CimNames.h"
@@ -36,16 +38,6 @@ const storlib::RaidObject* adapterOf(const storlib::LogicalDrive& logicalDrive) 
     return logicalDrive.getParent();
 }
 
-const storlib::HardDrive* driveAt(const storlib::RaidObject& adapter, const storlib::Chunk& chunk) {
-    for (const storlib::RaidObject* object : storlib::FilterCollection(adapter, storlib::HardDrive::kClassName)) {
-        const auto* drive = object->as<storlib::HardDrive>();
-        if (drive->getChannelID() == chunk.getChannelID() && drive->getDeviceID() == chunk.getDeviceID()) {
-            return drive;
-        }
-    }
-    return nullptr;
-}
-
 bool counts(const storlib::HardDrive* drive) {
     return drive != nullptr && drive->getState() != storlib::DriveState::Failed &&
            drive->getState() != storlib::DriveState::Missing;
@@ -68,23 +60,31 @@ std::vector<std::string> dedicatedSpares(const LogicalDriveContext& l, const sto
 
 }  // namespace
 
+// The chunks are read from the drives, which account for every extent they
+// hold (also the chunks a migration is moving the logical drive onto).
 void insertPoolChunks(const LogicalDriveContext& logicalDrive, fsaCIMInstanceWrapper& pool) {
-    std::vector<ChunkContext> chunks;
-    for (const storlib::RaidObject* child : logicalDrive.logicalDrive->getChildren()) {
-        if (const auto* chunk = child->as<storlib::Chunk>()) {
-            chunks.push_back(ChunkContext{logicalDrive.controller, chunk});
-        }
-    }
-    pool.addColumns(kChunks, chunks);
     const storlib::RaidObject* adapter = adapterOf(*logicalDrive.logicalDrive);
+    std::vector<ChunkContext> chunks;
     unsigned long long consumed = 0;
     std::vector<std::string> spares;
     if (adapter != nullptr) {
-        for (const ChunkContext& c : chunks) {
-            consumed += counts(driveAt(*adapter, *c.chunk)) ? of(c).sizeMB * kMiB : 0;
+        const std::uint32_t id = logicalDrive.logicalDrive->getLogicalDriveID();
+        for (const storlib::RaidObject* object : storlib::FilterCollection(*adapter, storlib::HardDrive::kClassName)) {
+            const auto* drive = object->as<storlib::HardDrive>();
+            for (const storlib::RaidObject* child : drive->getChildren()) {
+                const auto* chunk = child->as<storlib::Chunk>();
+                if (chunk != nullptr && !chunk->isFree() && chunk->getLogicalDriveID() == id) {
+                    chunks.push_back(ChunkContext{logicalDrive.controller, chunk});
+                    consumed += counts(drive) ? chunk->getSizeMB() * kMiB : 0;
+                }
+            }
         }
+        std::stable_sort(chunks.begin(), chunks.end(), [](const ChunkContext& a, const ChunkContext& b) {
+            return of(a).memberIndex < of(b).memberIndex;
+        });
         spares = dedicatedSpares(logicalDrive, *adapter);
     }
+    pool.addColumns(kChunks, chunks);
     pool.fsaAddProp("CEDedicatedSpares", spares);
     pool.fsaAddProp("SPSpaceConsumed", consumed);
 }
