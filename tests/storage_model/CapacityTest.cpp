@@ -5,7 +5,9 @@
 // systems, and after drives fail or are pulled.
 #include <map>
 
+#include <storlib/LogicalDriveSpec.h>
 #include <storlib/Simulator.h>
+#include <storlib/SystemGenerator.h>
 
 #include "storage_model/StorageModelFixture.h"
 
@@ -118,6 +120,40 @@ TEST_F(CapacityTest, ExtentsOfAPoolCoverItsMembers) {
     ASSERT_EQ(p.instances.size(), 1u);
     EXPECT_EQ(bytes, number(p.instances[0], "SpaceConsumed"));
     EXPECT_LT(number(p.instances[0], "TotalManagedSpace"), bytes);  // parity
+}
+
+TEST_F(CapacityTest, GeneratedSystemsAddUp) {
+    for (const storlib::GeneratorParams& params :
+         {storlib::GeneratorParams{2, 24, 6, 2, true}, storlib::GeneratorParams{3, 9, 4, 1, false}}) {
+        SCOPED_TRACE(params.drivesPerController);
+        startOn(params);
+        expectBalanced();
+        EXPECT_EQ(books().size(), params.controllers);
+        EXPECT_EQ(enumerate("VEX_GlobalIsSpare").size() + enumerate("VEX_DedicatedIsSpare").size(),
+                  params.controllers * params.sparesPerController);
+    }
+}
+
+// A volume carved from the middle of a free drive splits its free space in two.
+TEST_F(CapacityTest, AChunkInTheMiddleOfAFreeDriveLeavesTwoRemainingExtents) {
+    startOn(datapath::shippedSystem("demo.json"));
+    const Books before = books()["vexController_0"];
+    storlib::LogicalDriveSpec spec;
+    spec.raidLevel = storlib::RaidLevel::SimpleVolume;
+    spec.chunks.emplace_back(storlib::Addr::device(0, 0, 11), 200000, 100000);
+    spec.name = "Carved";
+    const storlib::Ret created = system().library().createLogicalDrive(spec);
+    ASSERT_TRUE(created) << created.getReason();
+    restart();
+    expectBalanced();
+    const Books after = books()["vexController_0"];
+    EXPECT_EQ(after.total, before.total);
+    EXPECT_EQ(after.remaining, before.remaining - 100000ull * 1024 * 1024);
+    std::vector<std::uint64_t> starts;
+    for (const Instance& link : enumerate("VEX_PrimordialToRemainingBasedOn")) {
+        if (text(end(link, "Antecedent"), "DeviceID") == "0_0_11") starts.push_back(number(link, "StartingAddress"));
+    }
+    EXPECT_EQ(starts, (std::vector<std::uint64_t>{0, 300000ull * 2048}));
 }
 
 }  // namespace
