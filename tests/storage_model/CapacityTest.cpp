@@ -138,11 +138,11 @@ TEST_F(CapacityTest, GeneratedSystemsAddUp) {
 TEST_F(CapacityTest, AChunkInTheMiddleOfAFreeDriveLeavesTwoRemainingExtents) {
     startOn(datapath::shippedSystem("demo.json"));
     const Books before = books()["vexController_0"];
-    storlib::LogicalDriveSpec spec;
-    spec.raidLevel = storlib::RaidLevel::SimpleVolume;
-    spec.chunks.emplace_back(storlib::Addr::device(0, 0, 11), 200000, 100000);
-    spec.name = "Carved";
-    const storlib::Ret created = system().library().createLogicalDrive(spec);
+    storlib::LogicalDriveSpec carved;
+    carved.raidLevel = storlib::RaidLevel::SimpleVolume;
+    carved.chunks.emplace_back(storlib::Addr::device(0, 0, 11), 200000, 100000);
+    carved.name = "Carved";
+    const storlib::Ret created = system().library().createLogicalDrive(carved);
     ASSERT_TRUE(created) << created.getReason();
     restart();
     expectBalanced();
