@@ -14,6 +14,7 @@
 #include "SimulatedSystem.h"
 #include "controller/VexCacheManager.h"
 #include "controller/VexFSAInterface.h"
+#include "framework/CIMException.h"
 #include "framework/CIMNamespaces.h"
 #include "framework/FrameworkFacade.h"
 #include "framework/PluginRegistry.h"
@@ -91,10 +92,13 @@ std::vector<std::string> pathTexts(const std::vector<CIMObjectPath>& paths) {
     return texts;
 }
 
+// Every instance of a class; none for a class this build does not serve.
 std::vector<CIMInstance> enumerate(const std::string& className) {
     CIMObjectPath path("", cim::fwf::kImplementationNameSpace, className, {});
     std::vector<CIMInstance> out;
-    FrameworkFacade::getInstance()->enumerateInstances(path, out);
+    if (FrameworkFacade::getInstance()->getPlugIn(className) != nullptr) {
+        FrameworkFacade::getInstance()->enumerateInstances(path, out);
+    }
     return out;
 }
 
@@ -155,7 +159,11 @@ void expectEveryFamilyAgrees() {
         auto* member = dynamic_cast<TableAssociation*>(
             FrameworkFacade::getInstance()->getPlugIn(registration.name));
         if (member != nullptr && (registration.nameSpaces & cim::fwf::kServedInImplementation)) {
-            expectSameAnswers(*member, registration.className);
+            try {
+                expectSameAnswers(*member, registration.className);
+            } catch (const cim::fwf::CIMException& e) {
+                ADD_FAILURE() << registration.className << ": " << e.getErrMessage();
+            }
             ++members;
         }
     }

@@ -37,12 +37,14 @@ extern const PluginFactoryList kHostProfileFactories;     // providers/device
 extern const PluginFactoryList kCachedDeviceFactories;    // providers/device
 extern const PluginFactoryList kCachedStorageFactories;   // providers/storage
 extern const PluginFactoryList kJobFactories;             // providers/storage
+extern const PluginFactoryList kStorageModelFactories;    // providers/storage
 
 inline const PluginFactoryList* const kFamilies[] = {
     &kHostProfileFactories,
     &kCachedDeviceFactories,
     &kCachedStorageFactories,
     &kJobFactories,
+    &kStorageModelFactories,
 };
 
 }  // namespace vex::cim::fwf

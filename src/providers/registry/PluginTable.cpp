@@ -146,6 +146,8 @@ const PluginRow kRows[] = {
     {"VEX_SCSIDeviceSAPImplementation", kAssociation, kImpl},
     {"VEX_SATADeviceSAPImplementation", kAssociation, kImpl},
     {"VEX_Container", kAssociation, kImpl},
+    {"VEX_ConcreteComponentView", kAssociation, kImpl},
+    {"VEX_PrimordialPoolToConcretePoolAllocatedFromStoragePoolViewView", kAssociation, kImpl},
     // Other instance classes.
     {"VEX_DriverSoftwareIdentity", kInstance, kImpl},
     {"VEX_FirmwareSoftwareIdentity", kInstance, kImpl},
