@@ -64,7 +64,8 @@ const std::vector<std::string> kAssociationNames = {
     "vex_sasinitiatorportsystemdevice", "vex_sasphysystemdevice", "vex_associatedbattery",
     "vex_batterysystemdevice", "vex_parenttochildpoolviewview", "vex_satasapavailableforelement",
     "vex_sassapavailableforelement", "vex_scsidevicesapimplementation",
-    "vex_satadevicesapimplementation", "vex_container",
+    "vex_satadevicesapimplementation", "vex_container", "vex_concretecomponentview",
+    "vex_primordialpooltoconcretepoolallocatedfromstoragepoolviewview",
 };
 
 // Cached instance plug-ins
@@ -153,8 +154,8 @@ TEST(PluginRegistry, ListsEveryServedClassOnceInRegistrationOrder) {
         distinct.insert(row->name);
     }
     EXPECT_EQ(names, expected);
-    EXPECT_EQ(names.size(), 171u);
-    EXPECT_EQ(distinct.size(), 171u);
+    EXPECT_EQ(names.size(), 173u);
+    EXPECT_EQ(distinct.size(), 173u);
     ASSERT_GT(names.size(), kAlwaysRegisteredPlugins);
     EXPECT_EQ(names[kAlwaysRegisteredPlugins], "vex_controllercomputersystemconformstoprofile");
     EXPECT_EQ(names.back(), "vex_eventindication");

@@ -37,12 +37,16 @@ extern const PluginFactoryList kHostProfileFactories;     // providers/device
 extern const PluginFactoryList kCachedDeviceFactories;    // providers/device
 extern const PluginFactoryList kCachedStorageFactories;   // providers/storage
 extern const PluginFactoryList kServiceFactories;         // providers/storage (services)
+extern const PluginFactoryList kJobFactories;             // providers/storage
+extern const PluginFactoryList kStorageModelFactories;    // providers/storage
 
 inline const PluginFactoryList* const kFamilies[] = {
     &kHostProfileFactories,
     &kCachedDeviceFactories,
     &kCachedStorageFactories,
     &kServiceFactories,
+    &kJobFactories,
+    &kStorageModelFactories,
 };
 
 }  // namespace vex::cim::fwf
