@@ -1,6 +1,7 @@
 // The everyday storage tasks by name, each one controller routine through
 // the provider: volume create/delete, spare assign/remove, verify, locate.
-// A refusal prints what the return code means and exits with 2.
+// A refusal prints what the return code means and exits with 2. Return codes
+// other than 0, 5, 6, 24 and 25 reach a client only as CIM_ERR_FAILED.
 #include <unistd.h>
 
 #include <iostream>
@@ -21,17 +22,12 @@ using cmpihost::Value;
 
 constexpr int kRefusedExit = 2;
 
-// What the routine's return code tells an administrator.
+// What a completed call's return code tells an administrator.
 const char* refusalText(std::uint64_t code) {
     switch (code) {
-    case 2: return "not allowed";
-    case 4: return "the request is incomplete or malformed (see the provider log for the parameter)";
+    case 5: return "the provider cannot reach the controllers";
     case 6: return "the controller refused the request (the drive or logical drive is in use, busy, or "
                    "in a state that forbids it)";
-    case 9: return "no controller";
-    case 11: return "the controller does not offer this (RAID level migration or expansion not supported)";
-    case 17: return "not enough drives or space for this request";
-    case 18: return "no such controller, drive or logical drive";
     default: return "the operation failed";
     }
 }
@@ -91,6 +87,13 @@ struct Task {
 int run(Session& session, Printer& printer, const Task& task) {
     const std::set<std::string> before = task.follow ? pathTexts(runningJobs(session)) : std::set<std::string>{};
     const cmpihost::Response r = session.host().invokeMethod(task.target, task.routine, task.in);
+    if (r.status.rc == CMPI_RC_ERR_FAILED) {
+        // Return values other than 0, 5, 6, 24 and 25 reach a client as this failure.
+        std::cerr << "vexraid: " << task.routine << " refused: the request is malformed or the controller cannot "
+                     "satisfy it (not enough drives or space, a migration it does not offer, a missing value; "
+                     "the provider log tells which)\n";
+        return kRefusedExit;
+    }
     requireOk(r);
     const std::uint64_t code = r.returnValue().isNull() ? 0 : r.returnValue().asUnsigned();
     printer.methodResult(r.returnValue(), r.outArgs);
