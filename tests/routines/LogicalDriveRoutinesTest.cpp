@@ -79,6 +79,17 @@ TEST_F(LogicalDriveRoutinesTest, TheBuilderChoosesDrivesAndNamesWhenTheRequestLe
     EXPECT_EQ(drive(0, 11)->getState(), storlib::DriveState::Raw);  // never an uninitialised drive
 }
 
+TEST_F(LogicalDriveRoutinesTest, ASimpleVolumeOnAJbodPromotesTheWholeDrive) {
+    CIMMethodParam jbod = args();
+    withText(jbod, "DDDeviceID", "0_0_7");
+    ASSERT_EQ(call("CreateJBOD", jbod), 0u);
+    ASSERT_EQ(create("SIMPLEVOLUME", {"0_0_7"}, "Promoted"), 0u);
+    ASSERT_NE(logicalDrive(1), nullptr);
+    EXPECT_EQ(logicalDrive(1)->getRaidLevel(), RaidLevel::SimpleVolume);
+    EXPECT_EQ(drive(0, 7)->getState(), storlib::DriveState::Online);
+    EXPECT_EQ(logicalDrive(1)->getDataSizeMB(), drive(0, 7)->getSizeMB());
+}
+
 TEST_F(LogicalDriveRoutinesTest, RequestsTheControllerCannotSatisfyAreRefusedBeforeAnyChange) {
     EXPECT_EQ(create("RAID 5", readyDrives(3), "x"), unsigned{FSAIF_INVALID_PARAM});
     EXPECT_TRUE(logged("No valid data for Raid Level"));

@@ -19,6 +19,8 @@ namespace {
 
 constexpr std::size_t kMaxName = 64;
 
+constexpr std::uint32_t kSimpleVolume = 15;
+
 bool usable(const storlib::HardDrive& d) {
     const storlib::DriveState s = d.getState();
     return (s == storlib::DriveState::Ready || s == storlib::DriveState::Online) && !d.isSpare() &&
@@ -89,6 +91,34 @@ std::vector<storlib::ChunkSpec> StorLibCreate::findChunkSpace(const storlib::Ada
         }
     }
     return chosen;
+}
+
+const storlib::HardDrive* StorLibCreate::findJBODPromoteChunkSpace(const storlib::Adapter& adapter,
+                                                                  const CreateRequest& request) const {
+    if (request.level != kSimpleVolume || request.chunks.size() != 1) {
+        return nullptr;
+    }
+    const storlib::HardDrive* drive = driveAt(adapter, request.chunks.front().drive);
+    return drive != nullptr && drive->isJBOD() ? drive : nullptr;
+}
+
+unsigned int StorLibCreate::executeJBOD(const storlib::HardDrive& jbod, const storlib::LogicalDriveSpec& spec,
+                                        storlib::Ret& ret, std::uint32_t* newId) {
+    BuilderTrace trace("StorLibCreate::executeJBOD");
+    const _pdiskIdf drive{static_cast<int>(jbod.getAddr().getAdapterID()), static_cast<int>(jbod.getChannelID()),
+                          static_cast<int>(jbod.getDeviceID())};
+    const unsigned int released = fsaifDeleteJBOD(drive, ret);
+    if (released != FSAIF_SUCCESS) {
+        return released;
+    }
+    storlib::LogicalDriveSpec whole = spec;
+    whole.dataSizeMB = 0;
+    const unsigned int created = fsaifCreateLogicalDrive(whole, ret, newId);
+    if (created != FSAIF_SUCCESS) {
+        storlib::Ret restored;
+        fsaifCreateJBOD(drive, restored);  // the drive goes back to what it was
+    }
+    return created;
 }
 
 std::uint32_t StorLibCreate::setSpannedArrays(std::uint32_t level, std::uint32_t legs) const {
@@ -175,8 +205,12 @@ unsigned int StorLibCreate::executeCreate(const storlib::Adapter& adapter, const
                                           storlib::Ret& ret, std::uint32_t* newId) {
     BuilderTrace trace("StorLibCreate::executeCreate");
     storlib::LogicalDriveSpec spec;
+    const storlib::HardDrive* jbod = findJBODPromoteChunkSpace(adapter, request);
     const unsigned int built = buildLogicalDriveSpec(adapter, request, spec);
-    return built != FSAIF_SUCCESS ? built : fsaifCreateLogicalDrive(spec, ret, newId);
+    if (built != FSAIF_SUCCESS) {
+        return built;
+    }
+    return jbod != nullptr ? executeJBOD(*jbod, spec, ret, newId) : fsaifCreateLogicalDrive(spec, ret, newId);
 }
 
 }  // namespace vex::cim::fwf

@@ -7,7 +7,10 @@
 //    enough drives share it, taken in turn from each enclosure so that the
 //    members spread over the enclosures (enclosure redundancy);
 //  - legs: two for RAID 50 and 60 (spanned arrays) unless given;
-//  - name: "<level>_<n>" with the next free number, when none is given.
+//  - name: "<level>_<n>" with the next free number, when none is given;
+//  - JBOD promotion: a simple volume asked for on a JBOD takes the whole
+//    drive: the JBOD is released and the volume made on it, and should the
+//    controller refuse the volume, the drive is made a JBOD again.
 // A request that cannot be satisfied is refused before anything changes:
 // 4 for a malformed one, 17 when there are not enough usable drives or the
 // size exceeds what the drives allow.
@@ -19,6 +22,7 @@
 #include <vector>
 
 #include <storlib/Adapter.h>
+#include <storlib/HardDrive.h>
 #include <storlib/LogicalDriveSpec.h>
 #include <storlib/Ret.h>
 
@@ -50,12 +54,18 @@ public:
     // The usable drives of a controller in the order findChunkSpace takes them.
     std::vector<storlib::ChunkSpec> findChunkSpace(const storlib::Adapter& adapter, std::uint32_t count) const;
     std::uint32_t setSpannedArrays(std::uint32_t level, std::uint32_t legs) const;
+    // The JBOD a request promotes to a simple volume, or null.
+    const storlib::HardDrive* findJBODPromoteChunkSpace(const storlib::Adapter& adapter,
+                                                         const CreateRequest& request) const;
     std::string buildLogicalDriveName(const storlib::Adapter& adapter, std::uint32_t level) const;
     // The largest data size the chunks allow, in MB.
     std::uint64_t maxDataSizeMB(const storlib::Adapter& adapter, const storlib::LogicalDriveSpec& spec) const;
 
 private:
     StorLibCreate() = default;
+
+    unsigned int executeJBOD(const storlib::HardDrive& jbod, const storlib::LogicalDriveSpec& spec, storlib::Ret& ret,
+                             std::uint32_t* newId);
 };
 
 }  // namespace vex::cim::fwf
