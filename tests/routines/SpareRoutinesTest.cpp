@@ -27,7 +27,7 @@ TEST_F(SpareRoutinesTest, GlobalAndDedicatedSparesAreAssignedAndReleased) {
     EXPECT_EQ(drive(0, 4)->getDedicatedLogicalDrives(), std::vector<uint32_t>{0});
 
     CIMMethodParam release = args();
-    withRefs(release, "InExtents", {extentRef("0_0_3"), extentRef("0_0_4")});
+    withRefs(release, "InExtents", {extentRef("0_0_3"), extentRef("0_0_4_Spare")});
     ASSERT_EQ(call("UnassignSpares", release), 0u);
     EXPECT_EQ(drive(0, 3)->getSpareType(), SpareType::None);
     EXPECT_EQ(drive(0, 4)->getSpareType(), SpareType::None);

@@ -17,8 +17,13 @@ std::optional<std::vector<CIMObjectPath>> referencesOf(const CIMMethodParam& in,
 }
 
 std::optional<_pdiskIdf> extentDrive(const CIMObjectPath& extent) {
+    static const std::string kSpareSuffix = "_Spare";  // a spare drive as a concrete extent
     for (const char* key : {"DeviceID", "DDDeviceID", "SEDeviceID"}) {
-        if (const std::optional<std::string> id = keyText(extent, key)) {
+        if (std::optional<std::string> id = keyText(extent, key)) {
+            if (id->size() > kSpareSuffix.size() &&
+                id->compare(id->size() - kSpareSuffix.size(), kSpareSuffix.size(), kSpareSuffix) == 0) {
+                id->resize(id->size() - kSpareSuffix.size());
+            }
             if (const std::optional<_pdiskIdf> drive = parseDrive(*id)) {
                 return drive;
             }

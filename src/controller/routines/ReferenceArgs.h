@@ -1,5 +1,5 @@
 // Object references passed to the SMI-S routines: drives as storage extents
-// (key "DeviceID" "<c>_<ch>_<d>"), pools and volumes (key "InstanceID" or
+// (key "DeviceID" "<c>_<ch>_<d>", or "<c>_<ch>_<d>_Spare" for a spare), pools and volumes (key "InstanceID" or
 // "DeviceID" "<c>_<l>"), each checked with the messages clients see.
 #ifndef VEX_CONTROLLER_ROUTINES_REFERENCEARGS_H
 #define VEX_CONTROLLER_ROUTINES_REFERENCEARGS_H
