@@ -115,6 +115,14 @@ TEST_F(ProviderVolumeTest, SparesAreAssignedThroughTheSpareService) {
     const auto* drive = system().snapshot()->getObject(storlib::Addr::device(0, 0, 4));
     EXPECT_TRUE(drive->as<storlib::HardDrive>()->isSpare());
     EXPECT_NE(cimom().invokeMethod(spares, "NoSuchMethod").returnValue().asUnsigned(), 0u);
+
+    // Without the root group the request never reaches the controller.
+    cmpihost::CallOptions nobody;
+    nobody.as(cmpihost::Principal::user("nobody"));
+    Response denied = cimom().invokeMethod(spares, "UnassignSpares", {{"InExtents", refs({extent(4)})}}, nobody);
+    EXPECT_EQ(denied.status.rc, CMPI_RC_ERR_ACCESS_DENIED);
+    drive = system().snapshot()->getObject(storlib::Addr::device(0, 0, 4));
+    EXPECT_TRUE(drive->as<storlib::HardDrive>()->isSpare());
 }
 
 }  // namespace
