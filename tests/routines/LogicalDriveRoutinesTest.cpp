@@ -25,10 +25,11 @@ protected:
         withText(in, "VDName", name);
         return call("CreateVD", in);
     }
-    CIMMethodParam modifyArgs(const std::string& level, const std::vector<std::string>& chunks) {
+    CIMMethodParam modifyArgs(const std::string& level, const std::vector<std::string>& chunks,
+                              const std::string& name = "Data") {
         CIMMethodParam in = args();
         withText(in, "SPInstanceID", "0_0");
-        withText(in, "VDName", "Data");
+        withText(in, "VDName", name);
         withText(in, "RaidLevel", level);
         withNumber(in, "StripeSize", 0);
         withNumber(in, "InitMethod", 0);
@@ -113,9 +114,10 @@ TEST_F(LogicalDriveRoutinesTest, RequestsTheControllerCannotSatisfyAreRefusedBef
 }
 
 TEST_F(LogicalDriveRoutinesTest, ModifyExpandsAndMigratesThroughAMigrationTask) {
-    ASSERT_EQ(call("ModifyVD", modifyArgs("RAID5", {"0_0_0", "0_0_1", "0_0_2", "0_0_3"})), 0u);
+    ASSERT_EQ(call("ModifyVD", modifyArgs("RAID5", {"0_0_0", "0_0_1", "0_0_2", "0_0_3"}, "Grown")), 0u);
     ASSERT_EQ(simulator().finishAllTasks().getStatusCode(), 0);
     EXPECT_EQ(logicalDrive(0)->getMemberCount(), 4u);
+    EXPECT_EQ(logicalDrive(0)->getName(), "Grown");
     EXPECT_EQ(logicalDrive(0)->getRaidLevel(), RaidLevel::Raid5);
 
     ASSERT_EQ(call("ModifyVD", modifyArgs("RAID6", {"0_0_0", "0_0_1", "0_0_2", "0_0_3", "0_0_4"})), 0u);

@@ -102,13 +102,13 @@ unsigned int runRoutine(const RoutineSpec& spec, const CIMObjectPath& path, cons
     Target target;
     if (!decodeTarget(spec.target, path, in, target)) {
         TkzLogMsg(TKZ_LOG_ERROR, "%s exits with without calling FSA Func", spec.name);
-        return 4;
+        return FSAIF_INVALID_PARAM;
     }
     logTarget(spec, target);
     Values values;
     for (int i = 0; i < 3; ++i) {
         if (!readValue(spec.values[i], in, values, i)) {
-            return 4;
+            return FSAIF_INVALID_PARAM;
         }
     }
     storlib::Ret ret;

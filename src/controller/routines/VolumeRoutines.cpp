@@ -16,6 +16,7 @@
 #include "controller/routines/StorLibCreate.h"
 #include "controller/routines/StorLibModify.h"
 #include "controller/CimNames.h"
+#include "controller/FsaifWrappers.h"
 #include "controller/VexFSAInterface.h"
 #include "platform/Tkz.h"
 
@@ -263,8 +264,12 @@ unsigned int FsaifExModifyVD(const CIMObjectPath& path, const CIMMethodParam& in
     StorLibModify* modify = StorLibModify::getInstance();
     modify->loadArguments(adapter, current, level, current->getLegs() > 1 ? current->getLegs() : 0, target);
     storlib::Ret ret;
-    const unsigned int result = modify->executeModify(*ld, spec, ret);
+    const std::string currentName = current->getName();
+    unsigned int result = modify->executeModify(*ld, spec, ret);
     modify->cleanUp();
+    if (result == FSAIF_SUCCESS && *name != currentName) {
+        result = fsaifChangeLDName(ld->controller, ld->logicalDrive, *name, ret);
+    }
     if (!ret.ok()) {
         TkzLogMsg(TKZ_LOG_ERROR, "FsaifExModifyVD: the controller refused: %s", ret.getReason().c_str());
     }
