@@ -103,12 +103,27 @@ TEST_F(BuilderOnControllerTest, MinimumChunksOfAMigrationKeepTheDataOnItsDrives)
     EXPECT_EQ(loaded(7, {0, 1, 2}).getMinChunksAllowed(), 4u);  // max(base 4, 2 + 1)
 }
 
-TEST_F(BuilderOnControllerTest, AMorphBeyondTheControllersDrivesAsksForOneMore) {
-    // Only the RAID 6 RS minimum of five exceeds no controller here; ask the
-    // search with fewer drives than the target's minimum through a tiny controller.
-    StorLibModify& m = loaded(18, {0, 1, 2});
-    EXPECT_GE(m.getMinChunksAllowed(), 5u);
-    EXPECT_EQ(raidmath::minimumDriveCount(18), 5u);
+// A controller with only the three drives of its RAID 5.
+class SmallControllerTest : public BuilderOnControllerTest {
+protected:
+    std::string systemJson() const override {
+        return R"({"controllers": [{"drives": [{"channel": 0, "device": 0, "sizeMB": 1000},
+            {"channel": 0, "device": 1, "sizeMB": 1000}, {"channel": 0, "device": 2, "sizeMB": 1000}],
+            "logicalDrives": [{"id": 0, "raidLevel": "RAID5", "members": ["0:0", "0:1", "0:2"]}]}]})";
+    }
+};
+
+TEST_F(SmallControllerTest, AMorphBeyondTheControllersDrivesAsksForOneMore) {
+    EXPECT_EQ(loaded(16, {0, 1, 2}).getMinChunksAllowed(), 4u);  // RAID 6 needs four; the controller has three
+    EXPECT_EQ(loaded(18, {0, 1, 2}).getMinChunksAllowed(), 4u);
+    // And ModifyVD reports it as not enough drives.
+    CIMMethodParam in = args();
+    withText(in, "SPInstanceID", "0_0");
+    withText(in, "VDName", "Device 0");
+    withText(in, "RaidLevel", "RAID6");
+    withNumber(in, "StripeSize", 0);
+    withNumber(in, "InitMethod", 0);
+    EXPECT_EQ(call("ModifyVD", in), unsigned{FSAIF_OP_INVALID});
 }
 
 }  // namespace vex::cim::fwf::test

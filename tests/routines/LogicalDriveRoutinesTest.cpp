@@ -125,6 +125,14 @@ TEST_F(LogicalDriveRoutinesTest, ModifyExpandsAndMigratesThroughAMigrationTask) 
     EXPECT_EQ(logicalDrive(0)->getRaidLevel(), RaidLevel::Raid6);
 }
 
+TEST_F(LogicalDriveRoutinesTest, AMigrationWithoutChunksTakesTheDrivesItNeeds) {
+    // RAID 5 of three to RAID 10 keeps the data on 2n - 2 = 4 chunks: one drive is added.
+    ASSERT_EQ(call("ModifyVD", modifyArgs("RAID10", {})), 0u);
+    ASSERT_EQ(simulator().finishAllTasks().getStatusCode(), 0);
+    EXPECT_EQ(logicalDrive(0)->getRaidLevel(), RaidLevel::Raid10);
+    EXPECT_EQ(logicalDrive(0)->getMemberCount(), 4u);
+}
+
 TEST_F(LogicalDriveRoutinesTest, ModifyRefusalsChangeNothing) {
     // RAID 5 to RAID 10 keeps its data on the drives: at least 2n - 2 = 4 chunks.
     EXPECT_EQ(call("ModifyVD", modifyArgs("RAID10", {"0_0_0", "0_0_1", "0_0_2"})), unsigned{FSAIF_OP_INVALID});

@@ -11,6 +11,7 @@
 #include "controller/routines/BuilderTrace.h"
 #include "controller/routines/OperationWrappers.h"
 #include "controller/routines/RaidLevelMath.h"
+#include "controller/routines/StorLibCreate.h"
 #include "controller/FsaifReturn.h"
 
 namespace vex::cim::fwf {
@@ -83,6 +84,7 @@ void StorLibModify::loadArguments(const storlib::Adapter* adapter, const storlib
             m_source.emplace_back(o->as<storlib::Chunk>()->getDriveAddr());
         }
     }
+    m_targetGiven = !target.empty();
     m_target = target.empty() ? m_source : std::move(target);
     setLevels(logicalDrive != nullptr ? static_cast<std::uint32_t>(logicalDrive->getRaidLevel()) : 0, targetLevel,
               legs);
@@ -281,6 +283,7 @@ unsigned int StorLibModify::executeModify(const _vdiskIdf& logicalDrive, storlib
         TkzLogMsg(TKZ_LOG_ERROR, "The controller does not offer this migration or expansion");
         return FSAIF_NOT_SUPPORTED;
     }
+    findChunkSpace();
     const std::uint32_t least = getMinChunksAllowed();
     if (m_target.size() < least) {
         TkzLogMsg(TKZ_LOG_ERROR, "Not enough drives: the change needs at least %u chunks", least);
@@ -292,6 +295,26 @@ unsigned int StorLibModify::executeModify(const _vdiskIdf& logicalDrive, storlib
     return fsaifModifyLogicalDrive(logicalDrive, spec, ret);
 }
 
+void StorLibModify::findChunkSpace() {
+    BuilderTrace trace("StorLibModify::findChunkSpace");
+    if (m_targetGiven || m_adapter == nullptr) {
+        return;
+    }
+    const std::uint32_t least = getMinChunksAllowed();
+    if (m_target.size() >= least) {
+        return;
+    }
+    const std::set<DriveKey> taken = drivesOf(m_target);
+    for (const storlib::ChunkSpec& c : StorLibCreate::getInstance()->findChunkSpace(*m_adapter, 0xffffffffu)) {
+        if (m_target.size() >= least) {
+            break;
+        }
+        if (taken.count({c.drive.getChannelID(), c.drive.getDeviceID()}) == 0) {
+            m_target.push_back(c);
+        }
+    }
+}
+
 void StorLibModify::cleanUp() {
     m_adapter = nullptr;
     m_logicalDrive = nullptr;
@@ -299,6 +322,7 @@ void StorLibModify::cleanUp() {
     m_target.clear();
     m_disjoint = false;
     m_mirrorSimple = false;
+    m_targetGiven = false;
 }
 
 }  // namespace vex::cim::fwf

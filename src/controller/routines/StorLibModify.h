@@ -28,7 +28,8 @@ public:
     static std::uint32_t getRAIDLevelEnum(const std::string& name);
 
     // The request: the controller and logical drive (from one snapshot), the
-    // target level, legs (0: the level's default) and the target chunks.
+    // target level, legs (0: the level's default) and the target chunks
+    // (none: the source's, completed by findChunkSpace).
     void loadArguments(const storlib::Adapter* adapter, const storlib::LogicalDrive* logicalDrive,
                        std::uint32_t targetLevel, std::uint32_t legs, std::vector<storlib::ChunkSpec> target);
     // The levels alone, for the arithmetic.
@@ -54,6 +55,10 @@ public:
     bool isTargetChunkDisjoint() const;  // no drive twice in the target
     bool targetHasMixedTech() const;
 
+    // With no target chunks given: adds usable drives (as the creation builder
+    // chooses them) to the source's until the migration's minimum is met.
+    void findChunkSpace();
+
     // Checks the loaded request and hands it to the controller: 0, 4 (bad
     // request), 11 (migration or expansion not offered), 17 (too few chunks
     // or a smaller result), or the wrapper's code.
@@ -72,6 +77,7 @@ private:
     std::uint32_t m_legs = 1;
     bool m_disjoint = false;
     bool m_mirrorSimple = false;
+    bool m_targetGiven = false;
     const storlib::Adapter* m_adapter = nullptr;
     const storlib::LogicalDrive* m_logicalDrive = nullptr;
     std::vector<storlib::ChunkSpec> m_source;
