@@ -1,6 +1,7 @@
 // Spares, parity and rebuild through the SMI-S routines: references checked,
 // the controller's state changed, a failed member rebuilt onto the spare.
 #include "RoutineTestSupport.h"
+#include "controller/routines/Routines.h"
 
 namespace vex::cim::fwf::test {
 
@@ -42,6 +43,21 @@ TEST_F(SpareRoutinesTest, AFailedMemberIsRebuiltOntoTheDedicatedSpare) {
     EXPECT_EQ(drive(0, 5)->getState(), DriveState::Rebuilding);
     ASSERT_TRUE(simulator().finishAllTasks().ok());
     EXPECT_EQ(drive(0, 5)->getState(), DriveState::Online);
+    EXPECT_EQ(logicalDrive(0)->getState(), storlib::LogicalDriveState::Optimal);
+}
+
+TEST_F(SpareRoutinesTest, ADegradedLogicalDriveIsRebuiltOntoTheDriveNamed) {
+    ASSERT_TRUE(simulator().failDrive(storlib::Addr::device(0, 0, 2)).ok());
+    ASSERT_EQ(logicalDrive(0)->getState(), storlib::LogicalDriveState::Degraded);
+    CIMMethodParam in = args();
+    withRefs(in, "Element", {poolRef("0_0")});
+    CIMMethodParam wrong = in;
+    withRefs(wrong, "Target", {extentRef("0_0_1")});  // already a member
+    EXPECT_EQ(FsaifExRebuildStorageExtent(CIMObjectPath(), wrong, out), unsigned{FSAIF_FW_FAILURE});
+    withRefs(in, "Target", {extentRef("0_0_3")});
+    ASSERT_EQ(FsaifExRebuildStorageExtent(CIMObjectPath(), in, out), 0u);
+    EXPECT_EQ(drive(0, 3)->getState(), DriveState::Rebuilding);
+    ASSERT_TRUE(simulator().finishAllTasks().ok());
     EXPECT_EQ(logicalDrive(0)->getState(), storlib::LogicalDriveState::Optimal);
 }
 
