@@ -36,11 +36,13 @@ constexpr PluginFactoryList factoryList(const PluginFactoryEntry (&entries)[N]) 
 extern const PluginFactoryList kHostProfileFactories;     // providers/device
 extern const PluginFactoryList kCachedDeviceFactories;    // providers/device
 extern const PluginFactoryList kCachedStorageFactories;   // providers/storage
+extern const PluginFactoryList kDeviceModelFactories;     // providers/device
 
 inline const PluginFactoryList* const kFamilies[] = {
     &kHostProfileFactories,
     &kCachedDeviceFactories,
     &kCachedStorageFactories,
+    &kDeviceModelFactories,
 };
 
 }  // namespace vex::cim::fwf
