@@ -26,7 +26,16 @@ protected:
     void SetUp() override { startOn(datapath::shippedSystem("demo.json")); }
 };
 
-TEST_F(AssociationTableTest, EveryAssociationIsFoundFromBothOfItsEnds) {
+// On the demo and on a minimal system (no enclosure, no battery): an
+// association whose ends both have instances has instances too.
+class EveryAssociationTest : public DeviceModelTest, public ::testing::WithParamInterface<const char*> {
+protected:
+    void SetUp() override { startOn(datapath::shippedSystem(GetParam())); }
+};
+
+INSTANTIATE_TEST_SUITE_P(Systems, EveryAssociationTest, ::testing::Values("demo.json", "minimal.json"));
+
+TEST_P(EveryAssociationTest, IsFoundFromBothOfItsEnds) {
     for (std::size_t i = 0; i < cim::fwf::kDeviceAssociationCount; ++i) {
         const AssociationRow& row = cim::fwf::deviceassoc::kRows[i];
         if (!served(cimom(), row.first) || !served(cimom(), row.second)) {

@@ -29,12 +29,7 @@ void softwareIdentity(const CIMInstance& controller, const std::string& suffix, 
         }
         CIMInstance identity;
         addKey(identity, "InstanceID", id);
-        const std::optional<long long> classification = [&] {
-            CIMInstance element;
-            copyElementAs(controller, "SIClassifications", i, "C", element);
-            return numberOf(element, "C");
-        }();
-        if (classification) {
+        if (const std::optional<long long> classification = elementNumber(controller, "SIClassifications", i)) {
             addUint16s(identity, "Classifications", {static_cast<unsigned short>(*classification)});
         }
         addText(identity, "ElementName", textOf(controller, "CSElementName") + " " + kind);

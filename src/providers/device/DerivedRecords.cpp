@@ -92,6 +92,11 @@ std::optional<long long> numberOf(const CIMInstance& record, const std::string& 
     return value;
 }
 
+std::optional<long long> elementNumber(const CIMInstance& record, const std::string& name, std::size_t index) {
+    CIMInstance element;
+    return copyElementAs(record, name, index, name, element) ? numberOf(element, name) : std::nullopt;
+}
+
 bool known(const std::string& text) { return !text.empty() && text != "unknown" && text != "Unknown"; }
 
 void addKey(CIMInstance& out, const std::string& name, const std::string& value) {
@@ -128,11 +133,19 @@ void addTexts(CIMInstance& out, const std::string& name, std::vector<std::string
 
 unsigned short healthOf(unsigned short operationalStatus) {
     switch (operationalStatus) {
-    case 2: return 5;           // OK
-    case 3: case 4: case 5: return 10;  // Degraded, Stressed, Predictive Failure
-    case 6: case 13: return 25;        // Error, Lost Communication
-    case 7: return 30;          // Non-Recoverable Error
-    default: return 0;
+    case 2:  // OK
+        return 5;
+    case 3:  // Degraded
+    case 4:  // Stressed
+    case 5:  // Predictive Failure
+        return 10;
+    case 6:   // Error
+    case 13:  // Lost Communication
+        return 25;
+    case 7:  // Non-Recoverable Error
+        return 30;
+    default:
+        return 0;
     }
 }
 

@@ -32,6 +32,8 @@ std::string textOf(const CIMInstance& record, const std::string& name);
 std::string elementText(const CIMInstance& record, const std::string& name, std::size_t index);
 // The value of a numeric property; none when absent or not a number.
 std::optional<long long> numberOf(const CIMInstance& record, const std::string& name);
+// The value of element `index` of a numeric array property.
+std::optional<long long> elementNumber(const CIMInstance& record, const std::string& name, std::size_t index);
 // A text the mapping left "unknown" counts as absent.
 bool known(const std::string& text);
 

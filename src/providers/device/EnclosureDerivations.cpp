@@ -13,8 +13,20 @@ namespace vex::cim::fwf::derived {
 namespace {
 
 // SES element types and status codes as the enclosure reports them.
-enum ElementType : long long { kDeviceSlot = 1, kPowerSupply = 2, kCooling = 3, kTemperature = 4, kArraySlot = 0x17 };
-enum ElementStatus : long long { kSesOK = 1, kSesCritical = 2, kSesNonCritical = 3, kSesUnrecoverable = 4, kSesNotInstalled = 5 };
+enum ElementType : long long {
+    kDeviceSlot = 1,
+    kPowerSupply = 2,
+    kCooling = 3,
+    kTemperature = 4,
+    kArraySlot = 0x17
+};
+enum ElementStatus : long long {
+    kSesOK = 1,
+    kSesCritical = 2,
+    kSesNonCritical = 3,
+    kSesUnrecoverable = 4,
+    kSesNotInstalled = 5
+};
 
 // OperationalStatus values.
 enum : unsigned short { kUnknown = 0, kOK = 2, kDegraded = 3, kError = 6, kNonRecoverable = 7, kLostCommunication = 13 };
@@ -32,11 +44,20 @@ unsigned short statusOf(const CIMInstance& element) {
     }
 }
 
-// The more severe of two statuses (Unknown counts least).
-unsigned short worse(unsigned short a, unsigned short b) {
-    const auto rank = [](unsigned short s) { return s == kOK ? 1 : s == kUnknown ? 0 : s == kDegraded ? 2 : s == kLostCommunication ? 3 : s == kError ? 4 : 5; };
-    return rank(a) >= rank(b) ? a : b;
+// How severe a status is: Unknown least, then OK, Degraded, Lost
+// Communication, Error, Non-Recoverable Error.
+int severity(unsigned short status) {
+    switch (status) {
+    case kUnknown: return 0;
+    case kOK: return 1;
+    case kDegraded: return 2;
+    case kLostCommunication: return 3;
+    case kError: return 4;
+    default: return 5;
+    }
 }
+
+unsigned short worse(unsigned short a, unsigned short b) { return severity(a) >= severity(b) ? a : b; }
 
 // The keys and common properties of a logical device of an enclosure.
 CIMInstance enclosureDevice(const CIMInstance& element, const char* className, const char* kind) {
