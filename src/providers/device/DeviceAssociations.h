@@ -251,8 +251,6 @@ inline constexpr AssociationRow kRows[kDeviceAssociationCount] = {
 
 }  // namespace deviceassoc
 
-inline constexpr const AssociationRow* kDeviceAssociations = deviceassoc::kRows;
-
 }  // namespace vex::cim::fwf
 
 #endif

@@ -58,24 +58,27 @@ inline constexpr DerivedInstanceRow kDeviceInstances[kDeviceInstanceCount] = {
 // clang-format on
 
 // The plug-in classes, one line each.
-class VEX_DriverSoftwareIdentity final : public DerivedClassPlugin<kDeviceInstances, kDriverSoftwareIdentity> {};
-class VEX_FirmwareSoftwareIdentity final : public DerivedClassPlugin<kDeviceInstances, kFirmwareSoftwareIdentity> {};
-class VEX_BiosSoftwareIdentity final : public DerivedClassPlugin<kDeviceInstances, kBiosSoftwareIdentity> {};
-class VEX_PerfModeProps final : public DerivedClassPlugin<kDeviceInstances, kPerfModeProps> {};
-class VEX_TargetSCSIProtocolEndpoint final : public DerivedClassPlugin<kDeviceInstances, kTargetSCSIProtocolEndpoint> {};
-class VEX_InitiatorSCSIProtocolEndpoint final : public DerivedClassPlugin<kDeviceInstances, kInitiatorSCSIProtocolEndpoint> {};
-class VEX_InitiatorATAProtocolEndpoint final : public DerivedClassPlugin<kDeviceInstances, kInitiatorATAProtocolEndpoint> {};
-class VEX_ViewCapabilities final : public DerivedClassPlugin<kDeviceInstances, kViewCapabilities> {};
-class VEX_DiskDrivePhysicalPackage final : public DerivedClassPlugin<kDeviceInstances, kDiskDrivePhysicalPackage> {};
-class VEX_DiskDriveSoftwareIdentity final : public DerivedClassPlugin<kDeviceInstances, kDiskDriveSoftwareIdentity> {};
-class VEX_DiskDriveSASPort final : public DerivedClassPlugin<kDeviceInstances, kDiskDriveSASPort> {};
-class VEX_DiskDriveATAPort final : public DerivedClassPlugin<kDeviceInstances, kDiskDriveATAPort> {};
-class VEX_DiskDriveSCSIProtocolEndpoint final : public DerivedClassPlugin<kDeviceInstances, kDiskDriveSCSIProtocolEndpoint> {};
-class VEX_DiskDriveATAProtocolEndpoint final : public DerivedClassPlugin<kDeviceInstances, kDiskDriveATAProtocolEndpoint> {};
-class VEX_EnclosureFan final : public DerivedClassPlugin<kDeviceInstances, kEnclosureFan> {};
-class VEX_EnclosurePowerSupply final : public DerivedClassPlugin<kDeviceInstances, kEnclosurePowerSupply> {};
-class VEX_EnclosureSensor final : public DerivedClassPlugin<kDeviceInstances, kEnclosureSensor> {};
-class VEX_EnclosureDiskDriveSlot final : public DerivedClassPlugin<kDeviceInstances, kEnclosureDiskDriveSlot> {};
+template <DeviceInstanceId Id>
+using DeviceClass = DerivedClassPlugin<kDeviceInstances, Id>;
+
+class VEX_DriverSoftwareIdentity final : public DeviceClass<kDriverSoftwareIdentity> {};
+class VEX_FirmwareSoftwareIdentity final : public DeviceClass<kFirmwareSoftwareIdentity> {};
+class VEX_BiosSoftwareIdentity final : public DeviceClass<kBiosSoftwareIdentity> {};
+class VEX_PerfModeProps final : public DeviceClass<kPerfModeProps> {};
+class VEX_TargetSCSIProtocolEndpoint final : public DeviceClass<kTargetSCSIProtocolEndpoint> {};
+class VEX_InitiatorSCSIProtocolEndpoint final : public DeviceClass<kInitiatorSCSIProtocolEndpoint> {};
+class VEX_InitiatorATAProtocolEndpoint final : public DeviceClass<kInitiatorATAProtocolEndpoint> {};
+class VEX_ViewCapabilities final : public DeviceClass<kViewCapabilities> {};
+class VEX_DiskDrivePhysicalPackage final : public DeviceClass<kDiskDrivePhysicalPackage> {};
+class VEX_DiskDriveSoftwareIdentity final : public DeviceClass<kDiskDriveSoftwareIdentity> {};
+class VEX_DiskDriveSASPort final : public DeviceClass<kDiskDriveSASPort> {};
+class VEX_DiskDriveATAPort final : public DeviceClass<kDiskDriveATAPort> {};
+class VEX_DiskDriveSCSIProtocolEndpoint final : public DeviceClass<kDiskDriveSCSIProtocolEndpoint> {};
+class VEX_DiskDriveATAProtocolEndpoint final : public DeviceClass<kDiskDriveATAProtocolEndpoint> {};
+class VEX_EnclosureFan final : public DeviceClass<kEnclosureFan> {};
+class VEX_EnclosurePowerSupply final : public DeviceClass<kEnclosurePowerSupply> {};
+class VEX_EnclosureSensor final : public DeviceClass<kEnclosureSensor> {};
+class VEX_EnclosureDiskDriveSlot final : public DeviceClass<kEnclosureDiskDriveSlot> {};
 
 }  // namespace vex::cim::fwf
 
