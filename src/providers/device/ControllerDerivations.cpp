@@ -36,6 +36,7 @@ void softwareIdentity(const CIMInstance& controller, const std::string& suffix, 
         copyElementAs(controller, "SIManufacturer", i, "Manufacturer", identity);
         copyElementAs(controller, "SIVersionString", i, "VersionString", identity);
         copyElementAs(controller, "SIRevisionNumber", i, "RevisionNumber", identity);
+        addBoolean(identity, "IsEntity", true);
         out.push_back(std::move(identity));
     }
 }

@@ -115,6 +115,7 @@ void driveFirmware(const CIMInstance& device, Out& out) {
     copyAs(device, "SIMajorVersion", "MajorVersion", identity);
     copyAs(device, "SIMinorVersion", "MinorVersion", identity);
     copyAs(device, "SIRevisionNumber", "RevisionNumber", identity);
+    addBoolean(identity, "IsEntity", true);
     out.push_back(std::move(identity));
 }
 
