@@ -38,6 +38,7 @@ extern const PluginFactoryList kCachedDeviceFactories;    // providers/device
 extern const PluginFactoryList kCachedStorageFactories;   // providers/storage
 extern const PluginFactoryList kJobFactories;             // providers/storage
 extern const PluginFactoryList kStorageModelFactories;    // providers/storage
+extern const PluginFactoryList kDeviceModelFactories;     // providers/device
 
 inline const PluginFactoryList* const kFamilies[] = {
     &kHostProfileFactories,
@@ -45,6 +46,7 @@ inline const PluginFactoryList* const kFamilies[] = {
     &kCachedStorageFactories,
     &kJobFactories,
     &kStorageModelFactories,
+    &kDeviceModelFactories,
 };
 
 }  // namespace vex::cim::fwf
