@@ -39,6 +39,7 @@ extern const PluginFactoryList kCachedStorageFactories;   // providers/storage
 extern const PluginFactoryList kServiceFactories;         // providers/storage (services)
 extern const PluginFactoryList kJobFactories;             // providers/storage
 extern const PluginFactoryList kStorageModelFactories;    // providers/storage
+extern const PluginFactoryList kDeviceModelFactories;     // providers/device
 
 inline const PluginFactoryList* const kFamilies[] = {
     &kHostProfileFactories,
@@ -47,6 +48,7 @@ inline const PluginFactoryList* const kFamilies[] = {
     &kServiceFactories,
     &kJobFactories,
     &kStorageModelFactories,
+    &kDeviceModelFactories,
 };
 
 }  // namespace vex::cim::fwf

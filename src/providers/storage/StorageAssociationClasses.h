@@ -34,7 +34,6 @@ class VEXPrimordialToRemainingBasedOn final : public StorageRow<kPrimordialToRem
 class VEXSASInitiatorPhyConcreteComponent final : public StorageRow<kSASInitiatorPhyConcreteComponent> {};
 class VEXSCSIProtocolControllerForUnit final : public StorageRow<kSCSIProtocolControllerForUnit> {};
 class VEXStorageVolumeConcreteDependency final : public StorageRow<kStorageVolumeConcreteDependency> {};
-class VEXViewElementCapabilities final : public StorageRow<kViewElementCapabilities> {};
 class VEXVolumeToCompositeExtentBasedOn final : public StorageRow<kVolumeToCompositeExtentBasedOn> {};
 class VEXVolumeViewSystemDeviceView final : public StorageRow<kVolumeViewSystemDeviceView> {};
 class VEXVolumeViewSystemDeviceViewView final : public StorageRow<kVolumeViewSystemDeviceViewView> {};

@@ -42,7 +42,6 @@ const PluginFactoryEntry kStorageModel[] = {
     {"vex_sasinitiatorphyconcretecomponent", &makePlugin<VEXSASInitiatorPhyConcreteComponent>},
     {"vex_scsiprotocolcontrollerforunit", &makePlugin<VEXSCSIProtocolControllerForUnit>},
     {"vex_storagevolumeconcretedependency", &makePlugin<VEXStorageVolumeConcreteDependency>},
-    {"vex_viewelementcapabilities", &makePlugin<VEXViewElementCapabilities>},
     {"vex_volumetocompositeextentbasedon", &makePlugin<VEXVolumeToCompositeExtentBasedOn>},
     {"vex_volumeviewsystemdeviceview", &makePlugin<VEXVolumeViewSystemDeviceView>},
     {"vex_volumeviewsystemdeviceviewview", &makePlugin<VEXVolumeViewSystemDeviceViewView>},
