@@ -58,8 +58,8 @@ TEST_F(ProviderMethodTest, CompletedCallReturnsItsValueAndOutArguments) {
     EXPECT_EQ(routines->type(), CMPI_stringA);
     EXPECT_FALSE(routines->elements().empty());
 
-    // A routine that is not built in answers 1: not a completed call.
-    Response rescan = cimom().invokeMethod(controller, "Rescan");
+    // A routine that refuses a missing argument answers 4: not a completed call.
+    Response rescan = cimom().invokeMethod(controller, "SetAlarmState");
     EXPECT_TRUE(hasStatus(rescan, CMPI_RC_ERR_FAILED, " :: Operation Failed"));
     EXPECT_EQ(rescan.returnValue(), Value::uint32(1));
 }
