@@ -104,6 +104,9 @@ TEST_F(SpareRoutinesTest, PoolsAreCreatedGrownAndDeletedThroughTheService) {
     ASSERT_NE(logicalDrive(1), nullptr);
     EXPECT_EQ(logicalDrive(1)->getRaidLevel(), storlib::RaidLevel::Raid5);
     EXPECT_EQ(logicalDrive(1)->getName(), "Pool A");
+    ASSERT_NE(out.getArgumentByName("Size"), nullptr);
+    EXPECT_EQ(out.getArgumentByName("Size")->getUint64Value().getValues().at(0),
+              logicalDrive(1)->getDataSizeMB() * 1024 * 1024);
 
     CIMMethodParam del = args();
     EXPECT_EQ(call("DeleteStoragePool", del), unsigned{FSAIF_INVALID_PARAM});

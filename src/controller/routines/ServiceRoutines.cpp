@@ -164,7 +164,13 @@ unsigned int createPool(const CIMObjectPath& path, const CIMMethodParam& in, CIM
         TkzLogMsg(TKZ_LOG_ERROR, "FsaifExCreateOrModifyStoragePool: %s", ret.getReason().c_str());
     }
     if (result == FSAIF_SUCCESS) {
-        putReference(out, "Pool", poolPath(path, _vdiskIdf{*controller, static_cast<int>(newId)}));
+        const _vdiskIdf created{*controller, static_cast<int>(newId)};
+        putReference(out, "Pool", poolPath(path, created));
+        const auto now = snapshot();
+        if (const storlib::LogicalDrive* pool = now ? logicalDriveIn(*now, created) : nullptr) {
+            out.addArgument(CIMProperty("Size", CIMValue<unsigned long long>(pool->getDataSizeMB() * kMiB), false,
+                                        CIM_UINT64, false));
+        }
     }
     return result;
 }
