@@ -1,7 +1,7 @@
 // The routine table: every extrinsic-method routine by name, in the order
 // the interface has always listed them, with its refresh flag (ask for a
-// cache refresh after success).
-//
+// cache refresh after success). The routines themselves live in
+// controller/routines/.
 #include "controller/VexFSAInterface.h"
 #include "controller/routines/Routines.h"
 
