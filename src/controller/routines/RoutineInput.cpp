@@ -7,7 +7,8 @@ namespace vex::cim::fwf::routine {
 
 namespace {
 
-constexpr std::size_t kMaxDigits = 9;  // keeps every field within int
+constexpr std::size_t kMaxDigits = 9;      // keeps every field within int
+constexpr std::size_t kMaxElements = 1024;  // more drives than any controller has
 constexpr char kFieldSeparator = '_';
 constexpr const char* kControllerPrefix = "vexController_";
 
@@ -135,7 +136,7 @@ std::optional<std::vector<std::string>> texts(const CIMMethodParam& in, const ch
         return std::nullopt;
     }
     std::vector<std::string> values = p->getStringValue().getValues();
-    if (values.empty()) {
+    if (values.empty() || values.size() > kMaxElements) {
         return std::nullopt;
     }
     return values;

@@ -50,7 +50,8 @@ std::optional<std::string> targetText(const CIMObjectPath& path, const CIMMethod
 std::optional<int> targetController(const CIMObjectPath& path, const CIMMethodParam& in);
 
 // Input values. Each answers empty when the argument is missing, empty or
-// of a type that does not carry the value.
+// of a type that does not carry the value; a list, also when it has more
+// than 1024 elements.
 std::optional<unsigned long long> number(const CIMMethodParam& in, const char* name);
 std::optional<bool> flag(const CIMMethodParam& in, const char* name);
 std::optional<std::string> text(const CIMMethodParam& in, const char* name);
