@@ -31,6 +31,29 @@ function(vex_component name)
   set_property(GLOBAL APPEND PROPERTY VEX_PROVIDER_COMPONENTS ${name})
 endfunction()
 
+# Links every component (but the EXCLUDEd ones) into a provider shared
+# object with the provider's exports; libSTORVEX is found next to it.
+function(vex_link_provider target)
+  cmake_parse_arguments(ARG "" "" "EXCLUDE" ${ARGN})
+  get_property(components GLOBAL PROPERTY VEX_PROVIDER_COMPONENTS)
+  if(ARG_EXCLUDE)
+    list(REMOVE_ITEM components ${ARG_EXCLUDE})
+  endif()
+  foreach(c ${components})
+    target_sources(${target} PRIVATE $<TARGET_OBJECTS:${c}>)
+    get_target_property(deps ${c} INTERFACE_LINK_LIBRARIES)
+    if(deps)
+      target_link_libraries(${target} PRIVATE ${deps})
+    endif()
+  endforeach()
+  target_link_libraries(${target} PRIVATE Threads::Threads ${CMAKE_DL_LIBS})
+  target_link_options(${target} PRIVATE -Wl,--no-undefined
+    -Wl,--version-script=${PROJECT_SOURCE_DIR}/src/exports.map)
+  set_target_properties(${target} PROPERTIES
+    LINK_DEPENDS ${PROJECT_SOURCE_DIR}/src/exports.map
+    BUILD_RPATH "$ORIGIN" INSTALL_RPATH "$ORIGIN")
+endfunction()
+
 # One GoogleTest executable; tests are discovered when ctest runs.
 function(vex_test name)
   cmake_parse_arguments(ARG "" "" "SOURCES;LIBS" ${ARGN})

@@ -142,11 +142,9 @@ public:
     void getPegasusSMISProfRegObjPaths();
     static std::string ToLower(const std::string& text);
 
-    // The password file read by VerifyUserRole: "/etc/passwd". Tests of the
-    // linked-in code point it elsewhere with setPasswordFile; tests of the
-    // loaded provider use the environment variable VEX_CMPI_PASSWD_FILE,
-    // which - when set - takes the place of the default (an empty value is
-    // ignored). Without either the default stands.
+    // The password file read by VerifyUserRole: "/etc/passwd"
+    // (SystemPasswordFile.h). Tests that link the adapter in point it
+    // elsewhere with setPasswordFile, which no object manager can reach.
     static void setPasswordFile(const std::string& path);
     static std::string passwordFile();
 

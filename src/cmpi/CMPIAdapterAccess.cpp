@@ -1,20 +1,18 @@
 #include "cmpi/CMPIAdapterAccess.h"
 
-#include <cstdlib>
 #include <fstream>
 #include <mutex>
 #include <set>
 
 #include "cmpi/CMPIAdapter.h"
 #include "cmpi/CmpiCalls.h"
+#include "cmpi/SystemPasswordFile.h"
 #include "platform/Tkz.h"
 
 namespace vex::cim::adap::cmpi {
 
 namespace {
 
-constexpr const char* kDefaultPasswordFile = "/etc/passwd";
-constexpr const char* kPasswordFileVariable = "VEX_CMPI_PASSWD_FILE";
 constexpr std::size_t kHostNameSize = 256;
 
 std::mutex& passwordFileMutex() {
@@ -79,13 +77,7 @@ std::string CMPIAdapter::passwordFile() {
             return passwordFileOverride();
         }
     }
-    const char* fromEnvironment = std::getenv(kPasswordFileVariable);
-    if (fromEnvironment != nullptr && *fromEnvironment != '\0') {
-        TkzLogMsg(TKZ_LOG_WARN, "Password file taken from %s: %s", kPasswordFileVariable,
-                  fromEnvironment);
-        return fromEnvironment;
-    }
-    return kDefaultPasswordFile;
+    return systemPasswordFile();
 }
 
 bool CMPIAdapter::VerifyUserRole(const std::string& user, const std::string&) {

@@ -1,6 +1,8 @@
-// The role check of extrinsic methods and modifications. The password file
-// is a test file named by VEX_CMPI_PASSWD_FILE: "root" and "operator" have
-// primary group 0, "alice" has not, and "toor" has user id 0 but group 100.
+// The role check of extrinsic methods and modifications. The suite's copy of
+// the provider reads the test file named by VEX_CMPI_PASSWD_FILE: "root" and
+// "operator" have primary group 0, "alice" has not, and "toor" has user id 0
+// but group 100. The provider as installed reads "/etc/passwd" whatever the
+// environment says.
 #include <cstdio>
 #include <cstdlib>
 #include <fstream>
@@ -77,6 +79,14 @@ TEST_F(ProviderAccessTest, OnlyMembersOfTheRootGroupRunMethods) {
         EXPECT_TRUE(r.data.empty()) << "no method ran for " << user;
         EXPECT_FALSE(logged("Entering FrameworkFacade invokeMethod()"));
     }
+}
+
+TEST_F(ProviderAccessTest, InstalledProviderReadsOnlyTheSystemPasswordFile) {
+    std::ofstream(m_file) << "intruder:x:4242:0::/nonexistent:/bin/sh\n";
+    startShipped();
+    EXPECT_TRUE(hasStatus(invokeAs(Principal::user("intruder")), CMPI_RC_ERR_ACCESS_DENIED,
+                          "intruder : is not a member of Administrator/root"));
+    EXPECT_TRUE(passed(invokeAs(Principal::user("root"))));
 }
 
 TEST_F(ProviderAccessTest, ModificationsAreCheckedLikeMethods) {

@@ -55,11 +55,11 @@ void keepMappedUnderAsan(const cmpihost::Host& host) {
 #endif
 }
 
-void load(cmpihost::Host& host, bool createAll) {
+void load(cmpihost::Host& host, bool createAll, const char* file = VEX_PROVIDER_SO) {
     cmpihost::LoadOptions options;
     options.freshLife = true;
     options.createAll = createAll;
-    cmpihost::Status status = host.load(VEX_PROVIDER_SO, "vexRAIDProvider15", options);
+    cmpihost::Status status = host.load(file, "vexRAIDProvider15", options);
     ASSERT_TRUE(status.ok()) << status.toString();
     keepMappedUnderAsan(host);
 }
@@ -72,6 +72,13 @@ void ProviderTest::start(cmpihost::HostConfig config, bool createAll) {
     m_host = std::make_unique<cmpihost::Host>(std::move(config));
     load(*m_host, createAll);
 }
+
+#ifdef VEX_SHIPPED_PROVIDER_SO
+void ProviderTest::startShipped() {
+    m_host = std::make_unique<cmpihost::Host>(cmpihost::HostConfig::pegasus214());
+    load(*m_host, false, VEX_SHIPPED_PROVIDER_SO);
+}
+#endif
 
 std::string ProviderTest::message(const cmpihost::Response& response) {
     return response.status.message.value_or("");

@@ -35,6 +35,9 @@ protected:
                bool createAll = false);
 
     // The message of a response, "" when it has none.
+    // The provider as installed, instead of the suite's copy whose access
+    // rule reads the password file of VEX_CMPI_PASSWD_FILE.
+    void startShipped();
     static std::string message(const cmpihost::Response& response);
 
     cmpihost::Host& cimom() { return *m_host; }
