@@ -84,7 +84,7 @@ protected:
 
     std::atomic<bool> m_running{false};
     std::atomic<bool> m_stopped{false};
-    std::time_t m_startTime = 0;
+    std::atomic<std::time_t> m_startTime{0};
     NRMEventCollection m_queue;
     std::unique_ptr<NLSParser> m_catalogue;
 

@@ -48,7 +48,8 @@ FsaRaidMonitor::FsaRaidMonitor(storlib::StorLib* library)
     : BaseRaidMonitor("NRMFSAConfig.xml", "NRMFSADebug.log", "NRMFSAEvents.log"), m_library(library) {}
 
 long FsaRaidMonitor::secondsSinceStart() const {
-    return m_startTime == 0 ? 0 : static_cast<long>(std::time(nullptr) - m_startTime);
+    const std::time_t started = m_startTime.load();
+    return started == 0 ? 0 : static_cast<long>(std::time(nullptr) - started);
 }
 
 void FsaRaidMonitor::start() {

@@ -1,5 +1,6 @@
 // The listener's work on one batch of monitor events, the one-slot refresh
 // queue, and the VEX_EventIndication instance.
+#include <dirent.h>
 #include <gtest/gtest.h>
 
 #include <climits>
@@ -10,6 +11,7 @@
 #include "events/FsaIfEventManager.h"
 #include "framework/FrameworkFacade.h"
 #include "monitor/NRMEvent.h"
+#include "monitor/VEXRaidEventMonitor.h"
 
 namespace vex::eventstest {
 namespace {
@@ -112,6 +114,42 @@ TEST(EventIndication, AnUnconvertibleTimeGivesTheCurrentTime) {
     const std::string now = formatTimeStampDup(std::time(nullptr));
     const std::string text = formatTimeStampDup(static_cast<std::time_t>(LLONG_MAX));
     EXPECT_EQ(text.substr(0, 10), now.substr(0, 10));
+}
+
+}  // namespace
+}  // namespace vex::eventstest
+
+namespace vex::eventstest {
+namespace {
+
+int threadCount() {
+    int count = 0;
+    if (DIR* dir = opendir("/proc/self/task")) {
+        while (dirent* entry = readdir(dir)) {
+            count += entry->d_name[0] != '.' ? 1 : 0;
+        }
+        closedir(dir);
+    }
+    return count;
+}
+
+// Started and stopped as the provider's start and terminate do it; the
+// process thread, once terminated, is not started again in this load.
+TEST(EventThreads, StartAndStopLeaveNoThreadBehind) {
+    FsaIfEventManager& manager = *FsaIfEventManager::getInstance();
+    monitor::VEXRaidEventMonitor& raidMonitor = *monitor::VEXRaidEventMonitor::getInstance();
+    const int before = threadCount();
+    for (int i = 0; i < 100; ++i) {
+        ASSERT_TRUE(raidMonitor.start());
+        ASSERT_TRUE(manager.initEventListener());
+        ASSERT_TRUE(manager.initEventProcessThread());
+        EXPECT_TRUE(manager.terminateEventListener());
+        EXPECT_TRUE(manager.terminateEventProcessThread());
+        EXPECT_FALSE(manager.isCallBackValid());
+    }
+    EXPECT_EQ(threadCount(), before);
+    EXPECT_TRUE(FsaIfEventManager::flagTermThread.load());
+    manager.setCallBack(&defaultEventListenerCbk);
 }
 
 }  // namespace
