@@ -1,7 +1,10 @@
 // The poll cycle on the simulated demo system: each fault the simulator can
 // inject becomes its event (code, type, key, text); changes made while no
 // monitor ran are found at start; controllers that go away are reported.
+#include <syslog.h>
+
 #include <functional>
+#include <utility>
 
 #include "MonitorFixture.h"
 #include "monitor/EventVocabulary.h"
@@ -131,6 +134,24 @@ TEST_F(MonitorTest, AControllerRemovedBetweenCyclesIsAnError) {
     ASSERT_TRUE(m_sim->setSmartError(Addr(0, 0, 8), true).ok());  // a refresh, as the count check would cause
     const auto back = cycle(*monitor);
     EXPECT_NE(find(back, "EVENT_STRATAVOL_CONTROLLER_ADDED"), nullptr) << keys(back);
+}
+
+std::vector<std::pair<int, std::string>> gSystemLog;
+
+TEST_F(MonitorTest, EventsAsSevereAsTheLoggingLevelGoToTheSystemLog) {
+    monitor::BaseRaidMonitor::setSystemLogSink([](int priority, const std::string& text) {
+        gSystemLog.emplace_back(priority, text);
+    });
+    m_nrm.write("NRMConfig.conf", "agent.OSLoggingLevel=1\n");
+    auto monitor = startMonitor();
+    gSystemLog.clear();
+    ASSERT_TRUE(m_sim->setSmartError(Addr(0, 0, 2), true).ok());  // a warning
+    ASSERT_TRUE(m_sim->setBatteryFailed(0, true).ok());           // an error
+    cycle(*monitor);
+    monitor::BaseRaidMonitor::setSystemLogSink(nullptr);
+    ASSERT_EQ(gSystemLog.size(), 1u);
+    EXPECT_EQ(gSystemLog[0].first, LOG_ERR);
+    EXPECT_EQ(gSystemLog[0].second, "The battery of controller 0 has failed. Replace it as soon as possible.");
 }
 
 TEST_F(MonitorTest, ABrokenSnapshotIsIgnoredAtStart) {
