@@ -96,6 +96,19 @@ TEST_F(MonitorTest, ARebuildOntoTheSpareIsFollowedToItsEnd) {
     EXPECT_NE(find(done, "EVENT_STRATAVOL_LD_OPTIMAL"), nullptr) << keys(done);
 }
 
+TEST_F(MonitorTest, APulledDriveReplacedByANewOneIsTold) {
+    auto monitor = startMonitor();
+    ASSERT_TRUE(m_sim->pullDrive(Addr(0, 0, 11)).ok());
+    EXPECT_NE(find(cycle(*monitor), "EVENT_STRATAVOL_PD_MISSING"), nullptr);
+    ASSERT_TRUE(m_sim->insertDrive(Addr(0, 0, 11), true).ok());
+    const auto back = cycle(*monitor);
+    const monitor::NRMEvent* replaced = find(back, "EVENT_STRATAVOL_PD_REPLACED");
+    ASSERT_NE(replaced, nullptr) << keys(back);
+    EXPECT_EQ(replaced->getDescription().find("Drive 0:11 (slot 11) on controller 0 was replaced (serial WFK01011 is now "),
+              0u)
+        << replaced->getDescription();
+}
+
 TEST_F(MonitorTest, TaskProgressIsToldOncePerTenth) {
     auto monitor = startMonitor();
     ASSERT_TRUE(m_sim->advanceTime(1200).ok());  // the verify of logical drive 2 moves from 35 %
