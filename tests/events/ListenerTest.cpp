@@ -138,8 +138,11 @@ int threadCount() {
 TEST(EventThreads, StartAndStopLeaveNoThreadBehind) {
     FsaIfEventManager& manager = *FsaIfEventManager::getInstance();
     monitor::VEXRaidEventMonitor& raidMonitor = *monitor::VEXRaidEventMonitor::getInstance();
-    const int before = threadCount();
+    int before = 0;
     for (int i = 0; i < 100; ++i) {
+        if (i == 1) {
+            before = threadCount();  // after the first round, which may start a sanitizer's own thread
+        }
         ASSERT_TRUE(raidMonitor.start());
         ASSERT_TRUE(manager.initEventListener());
         ASSERT_TRUE(manager.initEventProcessThread());
