@@ -46,8 +46,6 @@ FsaEventLink eventLink() {
 }
 
 void startEvents(VexFSAInterface& fsa) {
-    static const bool atExitRegistered = std::atexit(&stopAtExit) == 0;
-    (void)atExitRegistered;
     fsa.setEventLink(eventLink());
     monitor::VEXRaidEventMonitor* raidMonitor = monitor::VEXRaidEventMonitor::getInstance();
     if (raidMonitor == nullptr || !raidMonitor->start()) {
@@ -68,7 +66,11 @@ void startEvents(VexFSAInterface& fsa) {
     }
 }
 
+// Registered once the controllers have been read, so that at exit the event
+// threads stop before the objects first used by that reading are destroyed.
 void controllersRead() {
+    static const bool atExitRegistered = std::atexit(&stopAtExit) == 0;
+    (void)atExitRegistered;
     if (FsaIfEventManager* manager = FsaIfEventManager::getInstance()) {
         manager->updateWholeOldCache();
     }

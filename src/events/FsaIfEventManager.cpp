@@ -57,9 +57,17 @@ FsaIfEventManager::FsaIfEventManager()
     }
 }
 
+// Threads the provider's terminate already stopped are not stopped (nor
+// logged about) again: at exit the log may no longer be there.
 FsaIfEventManager::~FsaIfEventManager() {
-    terminateEventListener();
-    terminateEventProcessThread();
+    if (m_listenerThread != nullptr) {
+        terminateEventListener();
+    } else if (monitor::VEXRaidEventMonitor* raidMonitor = monitor::VEXRaidEventMonitor::getInstance()) {
+        raidMonitor->stop();
+    }
+    if (m_processThread != nullptr && !m_processJoined) {
+        terminateEventProcessThread();
+    }
     TkzDestroyEvent(&m_eventObject);
     TkzMutexDelete(&m_callbackMutex);
     TkzMutexDelete(&m_eventProcessorMutex);

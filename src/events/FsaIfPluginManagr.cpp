@@ -24,11 +24,12 @@ std::string formatted(const char* format, int a, int b = 0, int c = 0) {
 
 }  // namespace
 
-FsaIfPluginManagr* FsaIfPluginManagr::getInstance() {
-    // Deleted at unload with this clean-up object.
-    static std::unique_ptr<FsaIfPluginManagr> instance(new FsaIfPluginManagr());
-    return instance.get();
-}
+// Made when the library is loaded and deleted at unload (or exit) after
+// everything registered later, so the event threads can still reach it while
+// they are stopped at exit.
+std::unique_ptr<FsaIfPluginManagr> FsaIfPluginManagr::s_instance(new FsaIfPluginManagr());
+
+FsaIfPluginManagr* FsaIfPluginManagr::getInstance() { return s_instance.get(); }
 
 bool FsaIfPluginManagr::isSupported(_eVEXObjectType type) {
     return type == VEX_OBJ_PHYSICAL_DRIVE || type == VEX_OBJ_CONTROLLER || type == VEX_OBJ_CONCRETE_POOL ||

@@ -5,6 +5,7 @@
 
 #include <cstddef>
 #include <map>
+#include <memory>
 #include <mutex>
 #include <string>
 #include <vector>
@@ -53,6 +54,7 @@ private:
 
     std::map<int, std::vector<EventObserver*>> m_observers;
     static std::mutex sPluginInsMutex;
+    static std::unique_ptr<FsaIfPluginManagr> s_instance;
 };
 
 }  // namespace vex::cim::fwf

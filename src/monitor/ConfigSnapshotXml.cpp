@@ -8,24 +8,23 @@ namespace vex::monitor {
 
 namespace {
 
-// The attributes that tell one object of an element from another.
+// The attributes that tell one object of an element from another. Plain
+// arrays: the table needs no destruction, so the monitor thread may still
+// read it while the process exits.
 struct IdentityRow {
     const char* element;
-    std::vector<const char*> attributes;
+    const char* attributes[4];  // up to four, null-terminated when fewer
 };
 
-const std::vector<IdentityRow>& identityTable() {
-    static const std::vector<IdentityRow> table = {
-        {"Controller", {"controllerID"}},
-        {"Battery", {}},
-        {"HardDrive", {"channelID", "deviceID"}},
-        {"LogicalDrive", {"logicalDriveID"}},
-        {"SES2EnclosureDevice", {"channelID", "deviceID"}},
-        {"SESElement", {"channelID", "deviceID", "elementType", "elementIndex"}},
-        {"Progress", {"taskID"}},
-    };
-    return table;
-}
+constexpr IdentityRow kIdentities[] = {
+    {"Controller", {"controllerID", nullptr, nullptr, nullptr}},
+    {"Battery", {nullptr, nullptr, nullptr, nullptr}},
+    {"HardDrive", {"channelID", "deviceID", nullptr, nullptr}},
+    {"LogicalDrive", {"logicalDriveID", nullptr, nullptr, nullptr}},
+    {"SES2EnclosureDevice", {"channelID", "deviceID", nullptr, nullptr}},
+    {"SESElement", {"channelID", "deviceID", "elementType", "elementIndex"}},
+    {"Progress", {"taskID", nullptr, nullptr, nullptr}},
+};
 
 std::string escaped(const std::string& text) {
     std::string out;
@@ -248,9 +247,12 @@ void SnapshotObject::set(const std::string& name, std::string value) {
 
 std::string SnapshotObject::identity() const {
     std::string id = element;
-    for (const IdentityRow& row : identityTable()) {
+    for (const IdentityRow& row : kIdentities) {
         if (element == row.element) {
             for (const char* attribute : row.attributes) {
+                if (attribute == nullptr) {
+                    break;
+                }
                 id += '|' + get(attribute);
             }
             return id;
