@@ -54,7 +54,10 @@ function(vex_link_provider target)
     BUILD_RPATH "$ORIGIN" INSTALL_RPATH "$ORIGIN")
 endfunction()
 
-# One GoogleTest executable; tests are discovered when ctest runs.
+# One GoogleTest executable; tests are discovered when ctest runs. The RAID
+# event monitor of the providers the tests start keeps its files in the
+# build tree, not in /var/log.
+file(MAKE_DIRECTORY ${PROJECT_BINARY_DIR}/nrm)
 function(vex_test name)
   cmake_parse_arguments(ARG "" "" "SOURCES;LIBS" ${ARGN})
   add_executable(${name} ${ARG_SOURCES})
@@ -62,7 +65,7 @@ function(vex_test name)
   target_link_libraries(${name} PRIVATE ${ARG_LIBS} GTest::gtest GTest::gmock GTest::gtest_main)
   target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR}/src ${PROJECT_SOURCE_DIR}/tests)
   gtest_discover_tests(${name} DISCOVERY_MODE PRE_TEST
-    PROPERTIES ENVIRONMENT "VEX_BUILD_DIR=${PROJECT_BINARY_DIR}")
+    PROPERTIES ENVIRONMENT "VEX_BUILD_DIR=${PROJECT_BINARY_DIR};VEX_NRM_DIR=${PROJECT_BINARY_DIR}/nrm")
 endfunction()
 
 # Adds every direct child folder of DIR that has a CMakeLists.txt, in name order.

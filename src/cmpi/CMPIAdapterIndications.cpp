@@ -24,9 +24,43 @@ bool deliver(const CMPIBroker* broker, const CMPIContext* threadContext,
                                                     instance.getNameSpace().c_str(), ci));
 }
 
+// Embedded instances (SourceInstance of the life-cycle indications) are not
+// instance property types of the conversion: the indication is converted
+// without them and each is set as a CMPI_instance of its own.
+bool setEmbedded(CMPIInstance* ci, const fwf::CIMProperty& property, const CMPIBroker* broker) {
+    const std::vector<fwf::CIMInstance> values = property.getInstanceValue().getValues();
+    if (values.empty()) {
+        return true;
+    }
+    CMPIValue value;
+    value.inst = CMPIHelper::FrameworkInstanceToCMPIInstance(values.front(), broker, nullptr);
+    return value.inst != nullptr && ci->ft->setProperty != nullptr &&
+           calls::ok(ci->ft->setProperty(ci, property.getName().c_str(), &value, CMPI_instance));
+}
+
 CMPIInstance* toCmpi(const fwf::CIMInstance& instance, const CMPIBroker* broker) {
     try {
-        return CMPIHelper::FrameworkInstanceToCMPIInstance(instance, broker, nullptr);
+        const std::vector<fwf::CIMProperty> properties = instance.getPropertyList();
+        std::vector<const char*> plain;
+        std::vector<const fwf::CIMProperty*> embedded;
+        for (const fwf::CIMProperty& property : properties) {
+            if (property.getType() == fwf::CIM_INSTANCE) {
+                embedded.push_back(&property);
+            } else {
+                plain.push_back(property.getName().c_str());
+            }
+        }
+        if (embedded.empty()) {
+            return CMPIHelper::FrameworkInstanceToCMPIInstance(instance, broker, nullptr);
+        }
+        plain.push_back(nullptr);
+        CMPIInstance* ci = CMPIHelper::FrameworkInstanceToCMPIInstance(instance, broker, plain.data());
+        for (const fwf::CIMProperty* property : embedded) {
+            if (ci == nullptr || !setEmbedded(ci, *property, broker)) {
+                return nullptr;
+            }
+        }
+        return ci;
     } catch (...) {
         return nullptr;
     }

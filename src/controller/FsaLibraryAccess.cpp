@@ -8,10 +8,9 @@
 
 namespace vex::cim::fwf {
 
-// The RAID event monitor opens the library and this interface shares its
-// library object (getVexLib), so both read one library instance. Until the
-// monitor provides one, the interface opens the library itself, once: the
-// handle is kept until terminate drops it.
+// The interface opens the library itself, once: the handle is kept until
+// terminate drops it. The RAID event monitor opens a handle of its own, so
+// that its event cursor and its lifetime are independent of this one.
 void VexFSAInterface::acquireLibrary() {
     if (m_storLib.load() != nullptr) {
         return;

@@ -121,6 +121,10 @@ public:
     // Hands a change observer of one object type to the event machinery; 0.
     unsigned int registerForNotification(_eVEXObjectType type, EventObserver* observer);
 
+    // True while the controller interface is not initialised (events are
+    // then fetched and dropped).
+    static bool isNotInitialized() { return notInitialized.load(); }
+
     // Controllers found by the last initialize.
     unsigned long controllerCount() const { return m_controllerCount.load(); }
 

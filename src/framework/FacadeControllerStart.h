@@ -6,6 +6,8 @@
 
 namespace vex::cim::fwf {
 
+class VexFSAInterface;
+
 struct ControllerStart {
     bool serve;      // false: the provider must not serve at all
     bool selective;  // true: no controller found, register only the always-registered classes
@@ -17,6 +19,21 @@ struct ControllerStart {
 // objects. A listener or processor that fails to start leaves a provider that
 // still serves, without change events.
 ControllerStart startControllerAccess();
+
+// Stops what startControllerAccess started in the background (the event
+// threads and the monitor, through VexFSAInterface::terminate). Called when
+// the facade goes away; nothing when nothing was started.
+void stopControllerAccess();
+
+// The change-event machinery plugs in here when it is part of the provider
+// (it installs itself when the library is loaded). startEvents runs before
+// the controllers are read, controllersRead after; stopEvents undoes both.
+struct ControllerEventHooks {
+    void (*startEvents)(VexFSAInterface& fsa);
+    void (*controllersRead)();
+    void (*stopEvents)(VexFSAInterface& fsa);
+};
+void setControllerEventHooks(const ControllerEventHooks& hooks);
 
 }  // namespace vex::cim::fwf
 

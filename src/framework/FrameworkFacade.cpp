@@ -6,6 +6,7 @@
 
 #include "framework/AbstractAssociationProviderPlugin.h"
 #include "framework/CommonFunctions.h"
+#include "framework/FacadeControllerStart.h"
 #include "framework/PluginsManager.h"
 #include "platform/Tkz.h"
 
@@ -29,6 +30,14 @@ struct FrameworkFacadeCleanUp {
 FrameworkFacade::FrameworkFacade() = default;
 
 FrameworkFacade::~FrameworkFacade() {
+    bool current = false;
+    {
+        std::lock_guard<std::mutex> lock(m_insMutex);
+        current = m_ins == this;
+    }
+    if (current) {
+        stopControllerAccess();  // the event threads may still look the facade up
+    }
     std::lock_guard<std::mutex> lock(m_insMutex);
     if (m_ins == this) {
         m_ins = nullptr;

@@ -1,4 +1,6 @@
 #include "InProcessFixture.h"
+#include "events/FsaIfEventManager.h"
+#include "framework/FacadeControllerStart.h"
 
 #include <cstdarg>
 #include <cstdio>
@@ -55,8 +57,15 @@ public:
         gSystem = std::make_unique<SimulatedSystem>(shippedSystem("demo.json"));
         ASSERT_NE(cim::fwf::FrameworkFacade::getInstance(), nullptr);
         ASSERT_TRUE(cim::fwf::FrameworkFacade::getInstance()->initialize());
+        // refreshCycle plays the refresh thread: the provider's own event
+        // threads (monitor, listener, refresh) stay stopped.
+        cim::fwf::FsaIfEventManager::getInstance()->terminateEventListener();
+        cim::fwf::FsaIfEventManager::getInstance()->terminateEventProcessThread();
     }
-    void TearDown() override { gSystem.reset(); }
+    void TearDown() override {
+        cim::fwf::stopControllerAccess();  // the event threads end before the controllers go
+        gSystem.reset();
+    }
 };
 
 [[maybe_unused]] const ::testing::Environment* const kStarted = ::testing::AddGlobalTestEnvironment(new StartedProvider);

@@ -97,6 +97,8 @@ int main(int argc, char** argv) {
 
     char pattern[] = "/tmp/vex-stress-XXXXXX";
     if (mkdtemp(pattern) == nullptr) return 1;
+    // The RAID event monitor keeps its files with the run's system, not in /var/log.
+    setenv("VEX_NRM_DIR", pattern, 1);
     vexraid::Options options;
     options.provider = vexraid::defaultProviderPath();
     options.system = makeSystem(pattern);

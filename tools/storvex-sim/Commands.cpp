@@ -148,6 +148,28 @@ void controllerCommands(CLI::App& app, Action& chosen) {
     bat->callback([&chosen, ctl, restore] {
         chosen = [ctl, restore](StorLib& lib) { Simulator s(lib); return report(s.setBatteryFailed(*ctl, !*restore)); };
     });
+    auto* temp = app.add_subcommand("controller-temp", "set the temperature of a controller");
+    auto tempCtl = std::make_shared<uint32_t>(0);
+    auto celsius = std::make_shared<int32_t>(45);
+    temp->add_option("controller", *tempCtl, "controller index")->required();
+    temp->add_option("celsius", *celsius, "temperature")->required();
+    temp->callback([&chosen, tempCtl, celsius] {
+        chosen = [tempCtl, celsius](StorLib& lib) {
+            Simulator s(lib);
+            return report(s.setControllerTemperature(*tempCtl, *celsius));
+        };
+    });
+    auto* status = app.add_subcommand("controller-status", "set the status of a controller (0: usable)");
+    auto statusCtl = std::make_shared<uint32_t>(0);
+    auto value = std::make_shared<uint32_t>(0);
+    status->add_option("controller", *statusCtl, "controller index")->required();
+    status->add_option("status", *value, "status, 0 usable")->required();
+    status->callback([&chosen, statusCtl, value] {
+        chosen = [statusCtl, value](StorLib& lib) {
+            Simulator s(lib);
+            return report(s.setControllerStatus(*statusCtl, *value));
+        };
+    });
     auto* rm = app.add_subcommand("remove-controller", "take a controller out of the host");
     auto rmIndex = std::make_shared<uint32_t>(0);
     rm->add_option("controller", *rmIndex, "controller index")->required();

@@ -30,7 +30,7 @@ void subscribe(cmpihost::Host& host) {
     requireOk(host.enableIndications());
     // A management agent's first look at the jobs switches the provider's
     // event indications on.
-    host.enumerateInstanceNames(cmpihost::ObjectPath(vex::mof::kImplementationNamespace, "VEX_ConcreteJob"));
+    host.enumerateInstances(cmpihost::ObjectPath(vex::mof::kImplementationNamespace, "VEX_ConcreteJob"));
 }
 
 void unsubscribe(cmpihost::Host& host) {

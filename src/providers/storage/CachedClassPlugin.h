@@ -32,6 +32,13 @@ std::string tracedPrefix(const char* prefix);
 // by; the number of keys.
 int storedKeys(const CIMObjectPath& path, const std::string& prefix,
                std::vector<CIMProperty>& keys);
+// The keys of className for the key properties of a change event; 0 on
+// success. Views check that the event key has the parts of their composite
+// key ("ViewClass Key corrupted" otherwise); enclosures and their elements
+// keep the keys that name the object (the class names differ); every other
+// class takes the event keys as they are.
+int classKeysOfEvent(const char* className, std::vector<CIMProperty>& eventKeys,
+                     std::vector<CIMProperty>& classKeys);
 
 template <CachedClassId Id>
 using InstanceBase = std::conditional_t<kCachedClasses[Id].perElement, ArrayElementViewPlugin,
@@ -52,6 +59,9 @@ public:
     std::string getConcreteClassName() override { return kRow.className; }
     int getViewClassKeys(CIMObjectPath& path, std::vector<CIMProperty>& keys) override {
         return storedKeys(path, kRow.prefix, keys);
+    }
+    int getKeysFromEventKeys(std::vector<CIMProperty>& eventKeys, std::vector<CIMProperty>& classKeys) override {
+        return classKeysOfEvent(kRow.className, eventKeys, classKeys);
     }
 };
 
