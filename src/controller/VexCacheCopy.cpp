@@ -5,13 +5,15 @@
 // per instance. That had two faults: each add compared the instance with
 // every one already copied (quadratic: ~2 million key comparisons for 2048
 // drives), and the target - the repository readers were being served from -
-// stood empty or half filled while a request could read it. Now the new
-// contents are built aside, under the source's read lock only, with the
-// repeated instances dropped through a hash of their key values
-// (DistinctInstances, same first-wins result as the adds had), and are then
-// put in place under the target's write lock in one step. A reader sees the
-// complete old contents or the complete new ones, never a mixture. No
-// operation holds the locks of both repositories at once.
+// stood empty or half filled while a request could read it. Now the source's
+// generation is first published (what the update thread staged becomes what
+// every reader of the source sees), its lists are checked for repeated
+// instances through a hash of their key values (DistinctInstances, same
+// first-wins result as the adds had), and the target is given the result in
+// one step under its write lock. A list without repeats is not copied at
+// all: both repositories share it until one of them writes to it. A reader
+// sees the complete old contents or the complete new ones, never a mixture.
+// No operation holds the locks of both repositories at once.
 //
 // What the adds did is kept: a type whose list is empty is not copied (no
 // add ever ran for it), and each dropped repeat logs the line a refused add
@@ -44,24 +46,36 @@ std::vector<CachedInstance> distinctList(_eVEXObjectType type,
 
 }  // namespace
 
-bool VexCacheManager::distinctCopy(Contents& copy) const {
-    RepositoryLock lock(m_lock, RepositoryLock::Mode::Read);
-    if (!lock.held()) {
-        return false;
-    }
-    for (const auto& [type, list] : m_objects) {
-        if (!list.empty()) {
-            copy.emplace_hint(copy.end(), type, distinctList(type, list));
+bool VexCacheManager::distinctCopy(Contents& copy) {
+    Contents published;
+    {
+        RepositoryLock lock(m_lock, RepositoryLock::Mode::Write);
+        if (!lock.held()) {
+            return false;
         }
+        publishStaged();
+        published = m_published;  // shares the lists
+        lock.release();  // the copy is complete either way
     }
-    lock.release();  // the copy is complete either way
+    for (const auto& [type, list] : published) {
+        if (list->empty()) {
+            continue;
+        }
+        InstanceList distinct = distinctList(type, *list);
+        copy.emplace_hint(copy.end(), type,
+                          distinct.size() == list->size()
+                              ? list
+                              : std::make_shared<InstanceList>(std::move(distinct)));
+    }
     return true;
 }
 
 void VexCacheManager::install(Contents& contents) {
+    std::optional<Contents> staged;  // freed outside the lock
     RepositoryLock lock(m_lock, RepositoryLock::Mode::Write);
     if (lock.held()) {
-        m_objects.swap(contents);
+        m_published.swap(contents);
+        staged.swap(m_staged);
         lock.release();
     }
 }

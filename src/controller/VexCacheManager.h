@@ -20,6 +20,8 @@
 
 #include <atomic>
 #include <map>
+#include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -116,23 +118,54 @@ public:
     static void setSVexCacheRepoNewIsLatest(bool isLatest);
     static void setSVexCacheRepoOldIsLatest(bool isLatest);
 
+    // As swapObjectInstance, for instances already in the cache's own form
+    // (a cache build collects them so); list receives the previous contents.
+    unsigned int swapCachedInstances(_eVEXObjectType type,
+                                     std::vector<cache::CachedInstance>& list);
+
 private:
     friend class VexCacheManagerCleanUp;
     friend struct VexCacheManagerTestAccess;  // tests reset the process-wide state
 
-    using Contents = std::map<_eVEXObjectType, std::vector<cache::CachedInstance>>;
+    // A type's instances. Lists are shared - by both repositories after a
+    // copy, by readers still copying out of an older one - and never changed
+    // while shared: a write to a shared list first makes it this
+    // repository's own (writable).
+    using InstanceList = std::vector<cache::CachedInstance>;
+    using SharedList = std::shared_ptr<InstanceList>;
+    using Contents = std::map<_eVEXObjectType, SharedList>;
 
     static void createRepositories();
     static VexCacheManager* chooseRepository(bool current);
-    // Copies of every non-empty type, each list with repeated instances
-    // dropped as repeated addObjInstance calls would; false if the read lock
-    // failed.
-    bool distinctCopy(Contents& copy) const;
-    // Puts contents in place of this repository's in one step under the
-    // write lock; contents receives the replaced ones.
+    static bool callerIsUpdater();
+    static InstanceList& writable(SharedList& list);
+    // Puts list in place of type's list and hands back the previous one
+    // (exchanged true); a type without entry gets list itself.
+    unsigned int exchange(_eVEXObjectType type, SharedList& list, bool& exchanged);
+
+    // What the caller works on, under the repository lock. Every thread but
+    // the update thread sees the published generation. The update thread's
+    // writes go to a staged generation of its own, made from the published
+    // one on its first write, so a reader that still holds this repository
+    // (from before a role swap) never sees a rebuild half done; the staged
+    // generation is published as a whole by copyNewCachetoOldCache or
+    // exitCacheUpdate.
+    Contents& writableContents(bool updater);
+    const Contents& readableContents(bool updater) const;
+    // Publishes the staged generation, if any; the caller holds the write lock.
+    void publishStaged();
+    // The same, taking the write lock.
+    void publishStagedNow();
+    // The published generation after publishing the staged one, with the
+    // repeats of each list dropped as repeated addObjInstance calls would;
+    // false if the lock failed.
+    bool distinctCopy(Contents& copy);
+    // Makes contents this repository's published generation, dropping any
+    // staged one; contents receives the replaced ones.
     void install(Contents& contents);
 
-    Contents m_objects;
+    Contents m_published;
+    std::optional<Contents> m_staged;
     TKZ_RWLOCK m_lock;
 
     // Written by the update thread (and the first getInstance), read by every
