@@ -9,7 +9,15 @@ struct CachedInstance::Record {
     const CIMInstance* address = nullptr;
     std::uint32_t propertyCount = 0;
     std::uint32_t keyCount = 0;
+    // The properties begin with the keys, in their order (an instance built
+    // with addCimKeyBinding first): the keys then go in once, into both lists.
+    bool keysLead = false;
     std::unique_ptr<PropertyHandle[]> handles;
+
+    void noteKeysLead() {
+        keysLead = keyCount <= propertyCount &&
+                   std::equal(handles.get(), handles.get() + keyCount, handles.get() + propertyCount);
+    }
 
     Record() = default;
     Record(const Record&) = delete;
@@ -34,20 +42,23 @@ CachedInstance::CachedInstance(const CIMInstance& instance) {
     std::copy(handles.begin(), handles.end(), record->handles.get());
     record->propertyCount = static_cast<std::uint32_t>(propertyCount);
     record->keyCount = static_cast<std::uint32_t>(handles.size() - propertyCount);
+    record->noteKeysLead();
     m_record = std::move(record);
 }
 
 CIMInstance CachedInstance::toInstance() const {
     CIMInstance instance(*m_record->address);
-    if (m_record->keyCount != 0) {
-        // Keys go into both lists; the property list is then refilled.
-        for (const CIMProperty& key : keys()) {
-            instance.addCimKeyBinding(key);
-        }
-        instance.removeAllProperties();
+    for (const CIMProperty& key : keys()) {
+        instance.addCimKeyBinding(key);  // into both lists
     }
-    for (const CIMProperty& property : properties()) {
-        instance.addProperty(property);
+    std::size_t first = m_record->keyCount;
+    if (!m_record->keysLead) {
+        instance.removeAllProperties();  // the key list stays
+        first = 0;
+    }
+    const PropertyRange all = properties();
+    for (std::size_t i = first; i < all.size(); ++i) {
+        instance.addProperty(all[i]);
     }
     return instance;
 }
@@ -86,6 +97,7 @@ CachedInstance CachedInstance::withChanges(
     pool.retain(record->handles.get(), count);
     record->propertyCount = m_record->propertyCount;
     record->keyCount = m_record->keyCount;
+    record->keysLead = false;  // decided once the changes are in
     std::vector<CIMProperty> values;
     values.reserve(changes.size());
     for (auto& change : changes) {
@@ -100,6 +112,7 @@ CachedInstance CachedInstance::withChanges(
         slot = fresh[i];
     }
     pool.release(replaced.data(), replaced.size());
+    record->noteKeysLead();
     return CachedInstance(std::move(record));
 }
 
