@@ -6,11 +6,11 @@
 // every one already copied (quadratic: ~2 million key comparisons for 2048
 // drives), and the target - the repository readers were being served from -
 // stood empty or half filled while a request could read it. Now the source's
-// generation is first published (what the update thread staged becomes what
-// every reader of the source sees), its lists are checked for repeated
-// instances through a hash of their key values (DistinctInstances, same
-// first-wins result as the adds had), and the target is given the result in
-// one step under its write lock. A list without repeats is not copied at
+// latest generation (what the update thread staged in it) is checked for
+// repeated instances through a hash of their key values (DistinctInstances,
+// same first-wins result as the adds had), the target is given the result
+// in one step under its write lock, and then the source publishes what it
+// staged. A list without repeats is not copied at
 // all: both repositories share it until one of them writes to it. A reader
 // sees the complete old contents or the complete new ones, never a mixture.
 // No operation holds the locks of both repositories at once.
@@ -46,18 +46,17 @@ std::vector<CachedInstance> distinctList(_eVEXObjectType type,
 
 }  // namespace
 
-bool VexCacheManager::distinctCopy(Contents& copy) {
-    Contents published;
+bool VexCacheManager::distinctCopy(Contents& copy) const {
+    Contents latest;
     {
-        RepositoryLock lock(m_lock, RepositoryLock::Mode::Write);
+        RepositoryLock lock(m_lock, RepositoryLock::Mode::Read);
         if (!lock.held()) {
             return false;
         }
-        publishStaged();
-        published = m_published;  // shares the lists
+        latest = m_staged ? *m_staged : m_published;  // shares the lists
         lock.release();  // the copy is complete either way
     }
-    for (const auto& [type, list] : published) {
+    for (const auto& [type, list] : latest) {
         if (list->empty()) {
             continue;
         }
@@ -94,10 +93,14 @@ void VexCacheManager::copyNewCachetoOldCache() {
     if (from == nullptr || to == nullptr || from == to) {
         return;
     }
+    // The target first: readers of the target (the served repository) get
+    // the new generation before anyone sees it in the source, so a reader
+    // never meets an older generation after a newer one.
     Contents contents;
     if (from->distinctCopy(contents)) {
         to->install(contents);  // contents now holds the replaced ones, freed here unlocked
     }
+    from->publishStaged();
 }
 
 }  // namespace vex::cim::fwf

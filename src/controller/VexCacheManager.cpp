@@ -49,13 +49,6 @@ const VexCacheManager::Contents& VexCacheManager::readableContents(bool updater)
 }
 
 void VexCacheManager::publishStaged() {
-    if (m_staged) {
-        m_published.swap(*m_staged);
-        m_staged.reset();
-    }
-}
-
-void VexCacheManager::publishStagedNow() {
     Contents replaced;  // freed outside the lock
     RepositoryLock lock(m_lock, RepositoryLock::Mode::Write);
     if (lock.held() && m_staged) {

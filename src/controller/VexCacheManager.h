@@ -152,14 +152,12 @@ private:
     // exitCacheUpdate.
     Contents& writableContents(bool updater);
     const Contents& readableContents(bool updater) const;
-    // Publishes the staged generation, if any; the caller holds the write lock.
+    // Makes the staged generation, if any, the published one.
     void publishStaged();
-    // The same, taking the write lock.
-    void publishStagedNow();
-    // The published generation after publishing the staged one, with the
-    // repeats of each list dropped as repeated addObjInstance calls would;
-    // false if the lock failed.
-    bool distinctCopy(Contents& copy);
+    // The latest generation (staged, else published), with the repeats of
+    // each list dropped as repeated addObjInstance calls would; false if the
+    // lock failed.
+    bool distinctCopy(Contents& copy) const;
     // Makes contents this repository's published generation, dropping any
     // staged one; contents receives the replaced ones.
     void install(Contents& contents);

@@ -102,7 +102,7 @@ void VexCacheManager::exitCacheUpdate() {
     threadId.store(cache::kNoThread);
     for (VexCacheManager* repository : {sVexCacheRepoNew.load(), sVexCacheRepoOld.load()}) {
         if (repository != nullptr) {
-            repository->publishStagedNow();
+            repository->publishStaged();
         }
     }
 }

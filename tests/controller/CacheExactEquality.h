@@ -1,0 +1,29 @@
+// Exact comparison of instances as a reader receives them: address, the
+// property list and the key list in order, and of every property its name,
+// type, both flags and every value slot with its elements and flags.
+// References and embedded instances are compared field by field, host
+// included (stricter than CIMObjectPath's own equality).
+#ifndef VEX_TESTS_CONTROLLER_CACHEEXACTEQUALITY_H
+#define VEX_TESTS_CONTROLLER_CACHEEXACTEQUALITY_H
+
+#include <string>
+#include <vector>
+
+#include "framework/CIMInstance.h"
+
+namespace vex::cim::fwf::test {
+
+// Empty when equal; otherwise where the first difference is.
+std::string differenceOf(const CIMInstance& expected, const CIMInstance& actual);
+std::string differenceOf(const std::vector<CIMInstance>& expected,
+                         const std::vector<CIMInstance>& actual);
+
+// A view of an instance as the cache defines it, built here independently:
+// the properties whose names begin with prefix, renamed without it, view
+// keys (only those with keysOnly) as keys; false when none has the prefix.
+bool referenceView(const CIMInstance& stored, const std::string& prefix, bool keysOnly,
+                   CIMInstance& view);
+
+}  // namespace vex::cim::fwf::test
+
+#endif
