@@ -11,8 +11,11 @@
 //   rss_MiB          resident size after the start and one refresh
 //   peak_MiB         highest resident size during a further refresh
 //   peak_ratio       peak_MiB / rss_MiB
-//   base_MiB         resident size before the cache was filled (process,
-//                    libraries, the controller simulator's own model)
+//   base_MiB         resident size before the cache was filled (process and
+//                    libraries; the controller simulator's own model is
+//                    loaded later and counts in rss_MiB)
+//   pooled_per_inst  distinct pooled property values per instance
+//   start_s          seconds of the provider start's cache build
 #include <benchmark/benchmark.h>
 #include <malloc.h>
 #include <sys/wait.h>
@@ -28,6 +31,7 @@
 #include <string>
 
 #include "controller/VexCacheManager.h"
+#include "controller/cache/PropertyPool.h"
 #include "controller/VexFSAInterface.h"
 
 namespace vex::cim::fwf::bench {
@@ -40,6 +44,7 @@ struct Figures {
     double peak = 0;
     double base = 0;
     double startSeconds = 0;
+    double pooled = 0;
 };
 
 // "VmRSS" or "VmHWM" of this process, in bytes.
@@ -105,6 +110,7 @@ Figures measure(unsigned controllers) {
     refresh(fsa);
     figures.peak = statusBytes("VmHWM");
     figures.instances = cachedInstances();
+    figures.pooled = static_cast<double>(cache::PropertyPool::instance().entryCount());
     VexCacheManager::getInstance(true)->flushCache();
     VexCacheManager::getInstance(false)->flushCache();
     figures.cacheBytes = heapFilled - static_cast<double>(mallinfo2().uordblks);
@@ -136,7 +142,6 @@ void BM_CacheResident(benchmark::State& state) {
         benchmark::DoNotOptimize(figures);
     }
     if (!complete) {
-        std::fprintf(stderr, "child status %d\n", status);
         state.SkipWithError("measuring child failed");
         return;
     }
@@ -149,6 +154,7 @@ void BM_CacheResident(benchmark::State& state) {
     state.counters["peak_ratio"] = figures.peak / figures.rss;
     state.counters["base_MiB"] = figures.base / kMiB;
     state.counters["start_s"] = figures.startSeconds;
+    state.counters["pooled_per_inst"] = figures.pooled / figures.instances;
 }
 
 BENCHMARK(BM_CacheResident)->Arg(1)->Arg(4)->Arg(16)->Iterations(1)->Unit(benchmark::kMillisecond);

@@ -83,9 +83,6 @@ public:
     // This instance with the property at each given position replaced.
     CachedInstance withChanges(std::vector<std::pair<std::size_t, CIMProperty>> changes) const;
 
-    // The same stored record (not merely equal contents).
-    bool sameRecord(const CachedInstance& other) const { return m_record == other.m_record; }
-
 private:
     struct Record;
     explicit CachedInstance(std::shared_ptr<const Record> record) : m_record(std::move(record)) {}

@@ -53,16 +53,17 @@ bool VexCacheManager::distinctCopy(Contents& copy) const {
         if (!lock.held()) {
             return false;
         }
-        latest = m_staged ? *m_staged : m_published;  // shares the lists
+        latest = m_staged ? *m_staged : m_published;
+        shareAll(latest);
         lock.release();  // the copy is complete either way
     }
     for (const auto& [type, list] : latest) {
-        if (list->empty()) {
+        if (list->items.empty()) {
             continue;
         }
-        InstanceList distinct = distinctList(type, *list);
+        Instances distinct = distinctList(type, list->items);
         copy.emplace_hint(copy.end(), type,
-                          distinct.size() == list->size()
+                          distinct.size() == list->items.size()
                               ? list
                               : std::make_shared<InstanceList>(std::move(distinct)));
     }

@@ -33,12 +33,12 @@ unsigned int VexCacheManager::deleteObjectInstance(_eVEXObjectType type,
                   static_cast<int>(type));
         return VEX_CM_DEVTYPE_NOT_EXIST;
     }
-    if (keys.empty() || found->second->empty()) {
+    if (keys.empty() || found->second->items.empty()) {
         erased.swap(found->second);
         contents.erase(found);
         return lock.releaseWith(VEX_CM_SUCCESS);
     }
-    const InstanceList& stored = *found->second;
+    const Instances& stored = found->second->items;
     const auto match = std::find_if(stored.begin(), stored.end(), [&](const CachedInstance& each) {
         return cache::matchesKeys(keys, each);
     });
@@ -51,7 +51,7 @@ unsigned int VexCacheManager::deleteObjectInstance(_eVEXObjectType type,
         return VEX_CM_ENTRY_NOT_EXISTS;
     }
     const auto position = match - stored.begin();
-    InstanceList& list = writable(found->second);
+    Instances& list = writable(found->second);
     list.erase(list.begin() + position);
     if (list.empty()) {
         erased.swap(found->second);

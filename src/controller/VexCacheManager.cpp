@@ -24,14 +24,19 @@ bool VexCacheManager::callerIsUpdater() {
     return updater != cache::kNoThread && cache::callerThreadId() == updater;
 }
 
-// Under the write lock nobody can take a new share of a list, so a list used
-// only here can be changed in place; a shared one is copied first (the copy
-// shares the instances, not their values).
-VexCacheManager::InstanceList& VexCacheManager::writable(SharedList& list) {
-    if (list.use_count() != 1) {
-        list = std::make_shared<InstanceList>(*list);
+// A list never handed out is changed in place; a shared one is copied first
+// (the copy shares the instances, not their values).
+VexCacheManager::Instances& VexCacheManager::writable(SharedList& list) {
+    if (list->shared.load(std::memory_order_relaxed)) {
+        list = std::make_shared<InstanceList>(list->items);
     }
-    return *list;
+    return list->items;
+}
+
+void VexCacheManager::shareAll(const Contents& contents) {
+    for (const auto& entry : contents) {
+        entry.second->share();
+    }
 }
 
 VexCacheManager::Contents& VexCacheManager::writableContents(bool updater) {
@@ -39,6 +44,7 @@ VexCacheManager::Contents& VexCacheManager::writableContents(bool updater) {
         return m_published;
     }
     if (!m_staged) {
+        shareAll(m_published);
         m_staged = m_published;  // shares every list
     }
     return *m_staged;
@@ -69,10 +75,10 @@ unsigned int VexCacheManager::addObjInstance(_eVEXObjectType type, const CIMInst
     Contents& contents = writableContents(updater);
     const auto found = contents.find(type);
     if (found == contents.end()) {
-        contents.emplace(type, std::make_shared<InstanceList>(1, std::move(copy)));
+        contents.emplace(type, std::make_shared<InstanceList>(Instances(1, std::move(copy))));
         return lock.releaseWith(VEX_CM_SUCCESS);
     }
-    for (const CachedInstance& stored : *found->second) {
+    for (const CachedInstance& stored : found->second->items) {
         if (cache::sameIdentity(copy, stored)) {
             if (!lock.release()) {
                 return VEX_CM_SYSTEM_ERROR;
@@ -96,7 +102,7 @@ unsigned int VexCacheManager::exchange(_eVEXObjectType type, SharedList& list, b
     Contents& contents = writableContents(updater);
     const auto found = contents.find(type);
     if (found == contents.end()) {
-        contents.emplace(type, list);  // the caller keeps its list
+        contents.emplace(type, std::move(list));  // the caller keeps its own list
         return lock.releaseWith(VEX_CM_SUCCESS);
     }
     found->second.swap(list);
@@ -111,7 +117,7 @@ unsigned int VexCacheManager::swapCachedInstances(_eVEXObjectType type,
     bool exchanged = false;
     const unsigned int result = exchange(type, shared, exchanged);
     if (exchanged) {
-        list = *shared;  // the previous contents, taken outside the lock
+        list = shared->items;  // the previous contents, taken outside the lock
     }
     return result;
 }
@@ -124,7 +130,7 @@ unsigned int VexCacheManager::swapObjectInstance(_eVEXObjectType type,
     const unsigned int result = exchange(type, shared, exchanged);
     if (exchanged) {
         std::vector<CIMInstance> previous;
-        cache::appendInstances(*shared, previous);
+        cache::appendInstances(shared->items, previous);
         list.swap(previous);
     }
     return result;

@@ -127,18 +127,28 @@ private:
     friend class VexCacheManagerCleanUp;
     friend struct VexCacheManagerTestAccess;  // tests reset the process-wide state
 
-    // A type's instances. Lists are shared - by both repositories after a
-    // copy, by readers still copying out of an older one - and never changed
-    // while shared: a write to a shared list first makes it this
-    // repository's own (writable).
-    using InstanceList = std::vector<cache::CachedInstance>;
+    // A type's instances. A list is shared - by both repositories after a
+    // copy, with a staged generation, with readers still copying out of it -
+    // and once it has been handed out so it is never changed again: a write
+    // to it first makes a list of this repository's own (writable). The
+    // mark is set under the repository lock (read or write) and read under
+    // the write lock, so the lock orders the two.
+    using Instances = std::vector<cache::CachedInstance>;
+    struct InstanceList {
+        Instances items;
+        mutable std::atomic<bool> shared{false};
+
+        explicit InstanceList(Instances list) : items(std::move(list)) {}
+        void share() const { shared.store(true, std::memory_order_relaxed); }
+    };
     using SharedList = std::shared_ptr<InstanceList>;
     using Contents = std::map<_eVEXObjectType, SharedList>;
 
     static void createRepositories();
     static VexCacheManager* chooseRepository(bool current);
     static bool callerIsUpdater();
-    static InstanceList& writable(SharedList& list);
+    static Instances& writable(SharedList& list);
+    static void shareAll(const Contents& contents);
     // Puts list in place of type's list and hands back the previous one
     // (exchanged true); a type without entry gets list itself.
     unsigned int exchange(_eVEXObjectType type, SharedList& list, bool& exchanged);

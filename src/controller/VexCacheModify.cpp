@@ -62,7 +62,7 @@ unsigned int VexCacheManager::modifyObjectInstance(_eVEXObjectType type,
                   static_cast<int>(type));
         return lock.releaseWith(VEX_CM_DEVTYPE_NOT_EXIST);
     }
-    InstanceList& list = writable(found->second);
+    Instances& list = writable(found->second);
     bool lastMatched = true;  // an empty list answers success
     for (CachedInstance& stored : list) {
         lastMatched = cache::matchesKeys(keys, stored);

@@ -95,7 +95,7 @@ unsigned int VexCacheManager::getRepositoryObject(_eVEXObjectType type,
                                                   std::vector<CIMInstance>& out) const {
     CacheTrace trace("ENTER::getRepositoryObject", "EXIT::getRepositoryObject");
     const bool updater = callerIsUpdater();
-    std::shared_ptr<const StoredList> list;
+    std::shared_ptr<const InstanceList> list;
     RepositoryLock lock(m_lock, RepositoryLock::Mode::Read);
     if (!lock.held()) {
         return VEX_CM_SYSTEM_ERROR;
@@ -112,10 +112,11 @@ unsigned int VexCacheManager::getRepositoryObject(_eVEXObjectType type,
         return VEX_CM_DEVTYPE_NOT_EXIST;
     }
     list = found->second;
+    list->share();
     const bool released = lock.release();
     const ReadOutcome outcome = viewClass.empty()
-                                    ? readBase(*list, keys, keysOnly, out)
-                                    : readView(*list, viewClass, keys, keysOnly, out);
+                                    ? readBase(list->items, keys, keysOnly, out)
+                                    : readView(list->items, viewClass, keys, keysOnly, out);
     if (!released) {
         return VEX_CM_SYSTEM_ERROR;
     }
