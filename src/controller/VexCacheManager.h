@@ -15,6 +15,14 @@
 //
 // Every member operation answers with a VEX_CM_... code. Readers always
 // receive copies: nothing outside the cache ever holds a reference into it.
+//
+// Storage: instances are kept as handles to immutable records whose values
+// live once in a shared pool (CachedInstance.h, cache/PropertyPool.h), and
+// a type's list is shared between the repositories, the update thread's
+// staged generation and readers until one of them writes to it. A reader
+// copies out of its share of a list after the lock is released, and always
+// reads one complete generation: the update thread's writes become visible
+// to others only as a whole.
 #ifndef VEX_CONTROLLER_VEXCACHEMANAGER_H
 #define VEX_CONTROLLER_VEXCACHEMANAGER_H
 
