@@ -1,5 +1,6 @@
 #include "controller/cache/PropertyPool.h"
 
+#include <functional>
 #include <type_traits>
 
 #include "controller/KeyValueHash.h"
@@ -34,8 +35,9 @@ void forEachSlotType(F&& f) {
 
 // True when the property carries an exactly comparable value in the slot of
 // its tag and nothing in any other slot; secondFlag receives that slot's
-// second flag.
-bool shareable(const CIMProperty& property, bool& secondFlag) {
+// second flag and hash the identity hash (name, type, both property flags,
+// the second flag and the elements).
+bool shareable(const CIMProperty& property, bool& secondFlag, std::size_t& hash) {
     bool plain = true;
     const bool known = detail::withElementType(property.getType(), [&](auto* tag) {
         using T = std::remove_pointer_t<decltype(tag)>;
@@ -43,6 +45,12 @@ bool shareable(const CIMProperty& property, bool& secondFlag) {
             const CIMValue<T> value = property.getValueAs<T>();
             plain = !value.getFirstFlag();
             secondFlag = value.getSecondFlag();
+            hash = combineHash(std::hash<std::string>()(property.getName()), property.getType());
+            for (const T& element : value.getValues()) {
+                hash = combineHash(hash, std::hash<T>()(element));
+            }
+            hash = combineHash(hash, (property.isKey() ? 1U : 0U) | (property.isViewKey() ? 2U : 0U) |
+                                         (secondFlag ? 4U : 0U));
         } else {
             plain = false;
         }
@@ -55,13 +63,6 @@ bool shareable(const CIMProperty& property, bool& secondFlag) {
         });
     });
     return known && plain;
-}
-
-std::size_t identityHash(const CIMProperty& property, bool secondFlag) {
-    std::size_t hash = hashKeyValue(property);
-    hash = combineHash(hash, (property.isKey() ? 1U : 0U) | (property.isViewKey() ? 2U : 0U) |
-                                 (secondFlag ? 4U : 0U));
-    return hash;
 }
 
 bool sameIdentity(const PooledProperty& entry, const CIMProperty& property, bool secondFlag) {
@@ -102,10 +103,7 @@ void PropertyPool::acquire(std::vector<CIMProperty>& properties,
     candidates.reserve(properties.size());
     for (CIMProperty& property : properties) {
         Candidate candidate{&property, 0, false, false};
-        candidate.shareable = shareable(property, candidate.secondFlag);
-        if (candidate.shareable) {
-            candidate.hash = identityHash(property, candidate.secondFlag);
-        }
+        candidate.shareable = shareable(property, candidate.secondFlag, candidate.hash);
         candidates.push_back(candidate);
     }
     handles.reserve(handles.size() + candidates.size());
