@@ -1,114 +1,86 @@
 #include "CacheExactEquality.h"
 
-#include <cstring>
+#include <sstream>
 #include <type_traits>
 
 namespace vex::cim::fwf::test {
 
 namespace {
 
-std::string differenceOf(const CIMObjectPath& expected, const CIMObjectPath& actual);
-std::string differenceOf(const CIMProperty& expected, const CIMProperty& actual);
+void render(std::ostream& out, const std::vector<CIMProperty>& properties);
+
+void renderElement(std::ostream& out, const CIMObjectPath& path) {
+    out << "(" << path.getHostName() << "/" << path.getNameSpace() << ":" << path.getClassName();
+    render(out, path.getKeyBindings());
+    out << ")";
+}
+
+void renderElement(std::ostream& out, const CIMInstance& instance) { out << "(" << exactly(instance) << ")"; }
 
 template <typename T>
-bool sameElement(const T& a, const T& b) {
+void renderElement(std::ostream& out, const T& value) {
     if constexpr (std::is_floating_point_v<T>) {
-        return std::memcmp(&a, &b, sizeof a) == 0;  // tells -0.0 from 0.0
-    } else if constexpr (std::is_same_v<T, CIMObjectPath>) {
-        return differenceOf(a, b).empty();
-    } else if constexpr (std::is_same_v<T, CIMInstance>) {
-        return test::differenceOf(a, b).empty();
+        out << std::hexfloat << value << std::defaultfloat;  // -0.0 is not 0.0
+    } else if constexpr (std::is_integral_v<T>) {
+        out << static_cast<long long>(value);
     } else {
-        return a == b;
+        out << '"' << value << '"';
     }
 }
 
 template <typename T>
-std::string slotDifference(const CIMProperty& expected, const CIMProperty& actual, const char* slot) {
-    const CIMValue<T> a = expected.getValueAs<T>();
-    const CIMValue<T> b = actual.getValueAs<T>();
-    bool same = a.getFirstFlag() == b.getFirstFlag() && a.getSecondFlag() == b.getSecondFlag() &&
-                a.size() == b.size();
-    for (std::size_t i = 0; same && i < a.size(); ++i) {
-        same = sameElement<T>(a.getValues()[i], b.getValues()[i]);
+void renderSlot(std::ostream& out, const CIMProperty& property, int slot) {
+    const CIMValue<T> value = property.getValueAs<T>();
+    if (value.isEmpty() && !value.getFirstFlag() && !value.getSecondFlag()) {
+        return;
     }
-    return same ? "" : std::string(" slot ") + slot;
+    out << " slot" << slot << (value.getFirstFlag() ? "F" : "") << (value.getSecondFlag() ? "S" : "") << "[";
+    for (const T& element : value.getValues()) {
+        renderElement(out, element);
+        out << ",";
+    }
+    out << "]";
 }
 
-std::string differenceOf(const CIMProperty& expected, const CIMProperty& actual) {
-    if (expected.getName() != actual.getName() || expected.getType() != actual.getType() ||
-        expected.isKey() != actual.isKey() || expected.isViewKey() != actual.isViewKey()) {
-        return "property " + expected.getName() + " vs " + actual.getName() + " (name, type or flags)";
+void render(std::ostream& out, const std::vector<CIMProperty>& properties) {
+    for (const CIMProperty& p : properties) {
+        out << "\n  " << p.getName() << " type " << p.getType() << (p.isKey() ? " key" : "")
+            << (p.isViewKey() ? " viewkey" : "");
+        int slot = 0;
+        renderSlot<bool>(out, p, slot++);
+        renderSlot<signed char>(out, p, slot++);
+        renderSlot<unsigned char>(out, p, slot++);
+        renderSlot<short>(out, p, slot++);
+        renderSlot<unsigned short>(out, p, slot++);
+        renderSlot<int>(out, p, slot++);
+        renderSlot<unsigned int>(out, p, slot++);
+        renderSlot<long long>(out, p, slot++);
+        renderSlot<unsigned long long>(out, p, slot++);
+        renderSlot<float>(out, p, slot++);
+        renderSlot<double>(out, p, slot++);
+        renderSlot<std::string>(out, p, slot++);
+        renderSlot<CIMObjectPath>(out, p, slot++);
+        renderSlot<CIMInstance>(out, p, slot++);
     }
-    std::string slots = slotDifference<bool>(expected, actual, "bool") +
-                        slotDifference<signed char>(expected, actual, "sint8") +
-                        slotDifference<unsigned char>(expected, actual, "uint8") +
-                        slotDifference<short>(expected, actual, "sint16") +
-                        slotDifference<unsigned short>(expected, actual, "uint16") +
-                        slotDifference<int>(expected, actual, "sint32") +
-                        slotDifference<unsigned int>(expected, actual, "uint32") +
-                        slotDifference<long long>(expected, actual, "sint64") +
-                        slotDifference<unsigned long long>(expected, actual, "uint64") +
-                        slotDifference<float>(expected, actual, "real32") +
-                        slotDifference<double>(expected, actual, "real64") +
-                        slotDifference<std::string>(expected, actual, "string") +
-                        slotDifference<CIMObjectPath>(expected, actual, "reference") +
-                        slotDifference<CIMInstance>(expected, actual, "instance");
-    return slots.empty() ? "" : "property " + expected.getName() + ":" + slots;
-}
-
-std::string listDifference(const std::vector<CIMProperty>& expected,
-                           const std::vector<CIMProperty>& actual, const char* what) {
-    if (expected.size() != actual.size()) {
-        return std::string(what) + " count " + std::to_string(expected.size()) + " vs " +
-               std::to_string(actual.size());
-    }
-    for (std::size_t i = 0; i < expected.size(); ++i) {
-        const std::string difference = differenceOf(expected[i], actual[i]);
-        if (!difference.empty()) {
-            return std::string(what) + " " + std::to_string(i) + ": " + difference;
-        }
-    }
-    return "";
-}
-
-std::string differenceOf(const CIMObjectPath& expected, const CIMObjectPath& actual) {
-    if (expected.getHostName() != actual.getHostName() ||
-        expected.getNameSpace() != actual.getNameSpace() ||
-        expected.getClassName() != actual.getClassName()) {
-        return "path address";
-    }
-    return listDifference(expected.getKeyBindings(), actual.getKeyBindings(), "path key");
 }
 
 }  // namespace
 
-std::string differenceOf(const CIMInstance& expected, const CIMInstance& actual) {
-    if (expected.getHostName() != actual.getHostName() ||
-        expected.getNameSpace() != actual.getNameSpace() ||
-        expected.getClassName() != actual.getClassName()) {
-        return "address of " + expected.getClassName();
-    }
-    const std::string properties =
-        listDifference(expected.getPropertyList(), actual.getPropertyList(), "property");
-    return properties.empty()
-               ? listDifference(expected.getKeyPropertyList(), actual.getKeyPropertyList(), "key")
-               : properties;
+std::string exactly(const CIMInstance& instance) {
+    std::ostringstream out;
+    out << instance.getHostName() << "/" << instance.getNameSpace() << ":" << instance.getClassName();
+    render(out, instance.getPropertyList());
+    out << "\n keys:";
+    render(out, instance.getKeyPropertyList());
+    return out.str();
 }
 
-std::string differenceOf(const std::vector<CIMInstance>& expected,
-                         const std::vector<CIMInstance>& actual) {
-    if (expected.size() != actual.size()) {
-        return "instance count " + std::to_string(expected.size()) + " vs " +
-               std::to_string(actual.size());
+std::string exactly(const std::vector<CIMInstance>& list) {
+    std::string text;
+    for (const CIMInstance& instance : list) {
+        text += exactly(instance) + "\n";
     }
-    for (std::size_t i = 0; i < expected.size(); ++i) {
-        const std::string difference = differenceOf(expected[i], actual[i]);
-        if (!difference.empty()) {
-            return "instance " + std::to_string(i) + ": " + difference;
-        }
-    }
-    return "";
+    return text;
 }
 
 bool referenceView(const CIMInstance& stored, const std::string& prefix, bool keysOnly,

@@ -1,8 +1,7 @@
-// Exact comparison of instances as a reader receives them: address, the
-// property list and the key list in order, and of every property its name,
-// type, both flags and every value slot with its elements and flags.
-// References and embedded instances are compared field by field, host
-// included (stricter than CIMObjectPath's own equality).
+// Exact renderings of instances as a reader receives them, for comparison:
+// address, the property list and the key list in order, and of every
+// property its name, type, both flags and every value slot with its
+// elements and flags (reals bit for bit, references with their host).
 #ifndef VEX_TESTS_CONTROLLER_CACHEEXACTEQUALITY_H
 #define VEX_TESTS_CONTROLLER_CACHEEXACTEQUALITY_H
 
@@ -13,10 +12,8 @@
 
 namespace vex::cim::fwf::test {
 
-// Empty when equal; otherwise where the first difference is.
-std::string differenceOf(const CIMInstance& expected, const CIMInstance& actual);
-std::string differenceOf(const std::vector<CIMInstance>& expected,
-                         const std::vector<CIMInstance>& actual);
+std::string exactly(const CIMInstance& instance);
+std::string exactly(const std::vector<CIMInstance>& list);
 
 // A view of an instance as the cache defines it, built here independently:
 // the properties whose names begin with prefix, renamed without it, view

@@ -15,6 +15,7 @@ namespace {
 
 using Reads = std::map<std::string, std::vector<CIMInstance>>;
 
+
 // The types a controller build writes (the settings 15 to 17 are carried
 // across refreshes by the event code, not rebuilt here).
 constexpr int kLastBuiltType = VEX_OBJ_RESERVED_13;
@@ -58,7 +59,7 @@ Reads everyRead(VexCacheManager* repository) {
             expected.push_back(referenceKeys(instance));
         }
         repository->getRepositoryObject(type, "", {}, true, reads[name + " keys"]);
-        EXPECT_EQ(differenceOf(expected, reads[name + " keys"]), "") << "type " << name;
+        EXPECT_EQ(exactly(expected), exactly(reads[name + " keys"])) << "type " << name;
         for (const std::string& prefix : prefixesOf(whole)) {
             for (bool keysOnly : {false, true}) {
                 const std::string read = name + " " + prefix + (keysOnly ? " keys" : "");
@@ -70,26 +71,19 @@ Reads everyRead(VexCacheManager* repository) {
                     }
                 }
                 repository->getRepositoryObject(type, prefix, {}, keysOnly, reads[read]);
-                EXPECT_EQ(differenceOf(expected, reads[read]), "") << read;
+                EXPECT_EQ(exactly(expected), exactly(reads[read])) << read;
             }
         }
     }
     return reads;
 }
 
-std::string differenceOf(const Reads& expected, const Reads& actual) {
-    if (expected.size() != actual.size()) {
-        return "reads " + std::to_string(expected.size()) + " vs " + std::to_string(actual.size());
+std::string exactly(const Reads& reads) {
+    std::string text;
+    for (const auto& [read, list] : reads) {
+        text += "read " + read + "\n" + test::exactly(list);
     }
-    for (const auto& [read, list] : expected) {
-        const auto found = actual.find(read);
-        const std::string difference =
-            found == actual.end() ? "missing" : test::differenceOf(list, found->second);
-        if (!difference.empty()) {
-            return read + ": " + difference;
-        }
-    }
-    return "";
+    return text;
 }
 
 class CacheSystemsTest : public FsaTest {
@@ -98,9 +92,9 @@ protected:
         ASSERT_EQ(start(systemFile), 0u);
         const Reads started = everyRead(Cache::getInstance(true));
         EXPECT_GT(started.size(), 10u);
-        EXPECT_EQ(differenceOf(started, everyRead(Cache::getInstance(false))), "");
+        EXPECT_EQ(exactly(started), exactly(everyRead(Cache::getInstance(false))));
         ASSERT_EQ(refresh(false), 0u);
-        EXPECT_EQ(differenceOf(started, everyRead(Cache::getInstance(true))), "");
+        EXPECT_EQ(exactly(started), exactly(everyRead(Cache::getInstance(true))));
 
         simulatorOn(systemFile);
         ASSERT_TRUE(simulator().failDrive(storlib::Addr::device(0, 0, 1)).ok());
@@ -110,11 +104,11 @@ protected:
         ASSERT_EQ(refresh(false), 0u);
         ASSERT_EQ(refresh(true), 0u);
         const Reads refreshed = everyRead(Cache::getInstance(true));
-        EXPECT_NE(differenceOf(started, refreshed), "");  // the faults show
-        EXPECT_EQ(differenceOf(refreshed, everyRead(Cache::getInstance(false))), "");
+        EXPECT_TRUE(exactly(started) != exactly(refreshed));  // the faults show
+        EXPECT_EQ(exactly(refreshed), exactly(everyRead(Cache::getInstance(false))));
 
         ASSERT_EQ(start(systemFile), 0u);
-        EXPECT_EQ(differenceOf(everyRead(Cache::getInstance(true)), refreshed), "");
+        EXPECT_EQ(exactly(everyRead(Cache::getInstance(true))), exactly(refreshed));
     }
 };
 
