@@ -8,7 +8,7 @@ namespace vex::cim::fwf {
 
 namespace {
 
-std::size_t keyHash(const std::vector<CIMProperty>& keys) {
+std::size_t keyHash(const cache::PropertyRange& keys) {
     std::size_t hash = 0;
     for (const CIMProperty& key : keys) {
         hash = cache::combineHash(hash, cache::hashKeyValue(key));
@@ -17,9 +17,9 @@ std::size_t keyHash(const std::vector<CIMProperty>& keys) {
 }
 
 // The cache's identity: every key of the candidate is in the stored one, equal.
-bool sameKeys(const std::vector<CIMProperty>& keys, const CIMInstance& stored) {
+bool sameKeys(const cache::PropertyRange& keys, const cache::CachedInstance& stored) {
     for (const CIMProperty& key : keys) {
-        const CIMProperty* found = stored.getPropertyByName(key.getName());
+        const CIMProperty* found = stored.find(key.getName());
         if (found == nullptr || !found->equals(key)) {
             return false;
         }
@@ -31,7 +31,8 @@ bool sameKeys(const std::vector<CIMProperty>& keys, const CIMInstance& stored) {
 
 bool InstanceBatch::add(_eVEXObjectType type, const CIMInstance& instance) {
     TypeList& list = m_types[type];
-    const std::vector<CIMProperty> keys = instance.getKeyPropertyList();
+    cache::CachedInstance cached(instance);
+    const cache::PropertyRange keys = cached.keys();
     const std::size_t hash = keyHash(keys);
     const auto same = list.byKeys.equal_range(hash);
     for (auto it = same.first; it != same.second; ++it) {
@@ -41,13 +42,13 @@ bool InstanceBatch::add(_eVEXObjectType type, const CIMInstance& instance) {
         }
     }
     list.byKeys.emplace(hash, list.instances.size());
-    list.instances.push_back(instance);
+    list.instances.push_back(std::move(cached));
     return true;
 }
 
 void InstanceBatch::storeInto(VexCacheManager& cache) {
     for (auto& type : m_types) {
-        cache.swapObjectInstance(type.first, type.second.instances);
+        cache.swapCachedInstances(type.first, type.second.instances);
     }
     m_types.clear();
 }

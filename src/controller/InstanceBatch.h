@@ -7,6 +7,11 @@
 // values. The result is the one repeated adds would give: instances keep the
 // order they were added in, and of several with equal keys the first is kept
 // and each later one is logged as the cache logs it.
+//
+// Instances are kept in the cache's own form from the start (their values
+// in the property pool), so a build holds no second, full-size copy of the
+// system while it runs: values equal to those of the generation being
+// served are shared with it.
 #ifndef VEX_CONTROLLER_INSTANCEBATCH_H
 #define VEX_CONTROLLER_INSTANCEBATCH_H
 
@@ -15,6 +20,7 @@
 #include <unordered_map>
 #include <vector>
 
+#include "controller/CachedInstance.h"
 #include "framework/CIMInstance.h"
 #include "framework/VexObjectType.h"
 
@@ -36,7 +42,7 @@ public:
 
 private:
     struct TypeList {
-        std::vector<CIMInstance> instances;
+        std::vector<cache::CachedInstance> instances;
         std::unordered_multimap<std::size_t, std::size_t> byKeys;  // key hash -> position
     };
 

@@ -5,13 +5,15 @@
 // per instance. That had two faults: each add compared the instance with
 // every one already copied (quadratic: ~2 million key comparisons for 2048
 // drives), and the target - the repository readers were being served from -
-// stood empty or half filled while a request could read it. Now the new
-// contents are built aside, under the source's read lock only, with the
-// repeated instances dropped through a hash of their key values
-// (DistinctInstances, same first-wins result as the adds had), and are then
-// put in place under the target's write lock in one step. A reader sees the
-// complete old contents or the complete new ones, never a mixture. No
-// operation holds the locks of both repositories at once.
+// stood empty or half filled while a request could read it. Now the source's
+// latest generation (what the update thread staged in it) is checked for
+// repeated instances through a hash of their key values (DistinctInstances,
+// same first-wins result as the adds had), the target is given the result
+// in one step under its write lock, and then the source publishes what it
+// staged. A list without repeats is not copied at
+// all: both repositories share it until one of them writes to it. A reader
+// sees the complete old contents or the complete new ones, never a mixture.
+// No operation holds the locks of both repositories at once.
 //
 // What the adds did is kept: a type whose list is empty is not copied (no
 // add ever ran for it), and each dropped repeat logs the line a refused add
@@ -45,23 +47,35 @@ std::vector<CachedInstance> distinctList(_eVEXObjectType type,
 }  // namespace
 
 bool VexCacheManager::distinctCopy(Contents& copy) const {
-    RepositoryLock lock(m_lock, RepositoryLock::Mode::Read);
-    if (!lock.held()) {
-        return false;
-    }
-    for (const auto& [type, list] : m_objects) {
-        if (!list.empty()) {
-            copy.emplace_hint(copy.end(), type, distinctList(type, list));
+    Contents latest;
+    {
+        RepositoryLock lock(m_lock, RepositoryLock::Mode::Read);
+        if (!lock.held()) {
+            return false;
         }
+        latest = m_staged ? *m_staged : m_published;
+        shareAll(latest);
+        lock.release();  // the copy is complete either way
     }
-    lock.release();  // the copy is complete either way
+    for (const auto& [type, list] : latest) {
+        if (list->items.empty()) {
+            continue;
+        }
+        Instances distinct = distinctList(type, list->items);
+        copy.emplace_hint(copy.end(), type,
+                          distinct.size() == list->items.size()
+                              ? list
+                              : std::make_shared<InstanceList>(std::move(distinct)));
+    }
     return true;
 }
 
 void VexCacheManager::install(Contents& contents) {
+    std::optional<Contents> staged;  // freed outside the lock
     RepositoryLock lock(m_lock, RepositoryLock::Mode::Write);
     if (lock.held()) {
-        m_objects.swap(contents);
+        m_published.swap(contents);
+        staged.swap(m_staged);
         lock.release();
     }
 }
@@ -80,10 +94,14 @@ void VexCacheManager::copyNewCachetoOldCache() {
     if (from == nullptr || to == nullptr || from == to) {
         return;
     }
+    // The target first: readers of the target (the served repository) get
+    // the new generation before anyone sees it in the source, so a reader
+    // never meets an older generation after a newer one.
     Contents contents;
     if (from->distinctCopy(contents)) {
         to->install(contents);  // contents now holds the replaced ones, freed here unlocked
     }
+    from->publishStaged();
 }
 
 }  // namespace vex::cim::fwf

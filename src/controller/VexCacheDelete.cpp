@@ -17,12 +17,15 @@ using cache::RepositoryLock;
 unsigned int VexCacheManager::deleteObjectInstance(_eVEXObjectType type,
                                                    const std::vector<CIMProperty>& keys) {
     CacheTrace trace("ENTER::deleteObjectInstance", "EXIT::deleteObjectInstance");
+    const bool updater = callerIsUpdater();
+    SharedList erased;  // freed once the lock is released
     RepositoryLock lock(m_lock, RepositoryLock::Mode::Write);
     if (!lock.held()) {
         return VEX_CM_SYSTEM_ERROR;
     }
-    const auto found = m_objects.find(type);
-    if (found == m_objects.end()) {
+    Contents& contents = writableContents(updater);
+    const auto found = contents.find(type);
+    if (found == contents.end()) {
         if (!lock.release()) {
             return VEX_CM_SYSTEM_ERROR;
         }
@@ -30,17 +33,16 @@ unsigned int VexCacheManager::deleteObjectInstance(_eVEXObjectType type,
                   static_cast<int>(type));
         return VEX_CM_DEVTYPE_NOT_EXIST;
     }
-    std::vector<CachedInstance>& list = found->second;
-    if (keys.empty() || list.empty()) {
-        std::vector<CachedInstance> erased;
-        erased.swap(list);  // freed once the lock is released
-        m_objects.erase(found);
+    if (keys.empty() || found->second->items.empty()) {
+        erased.swap(found->second);
+        contents.erase(found);
         return lock.releaseWith(VEX_CM_SUCCESS);
     }
-    const auto match = std::find_if(list.begin(), list.end(), [&](const CachedInstance& stored) {
-        return cache::matchesKeys(keys, stored);
+    const Instances& stored = found->second->items;
+    const auto match = std::find_if(stored.begin(), stored.end(), [&](const CachedInstance& each) {
+        return cache::matchesKeys(keys, each);
     });
-    if (match == list.end()) {
+    if (match == stored.end()) {
         if (!lock.release()) {
             return VEX_CM_SYSTEM_ERROR;
         }
@@ -48,9 +50,12 @@ unsigned int VexCacheManager::deleteObjectInstance(_eVEXObjectType type,
                   static_cast<int>(type));
         return VEX_CM_ENTRY_NOT_EXISTS;
     }
-    list.erase(match);
+    const auto position = match - stored.begin();
+    Instances& list = writable(found->second);
+    list.erase(list.begin() + position);
     if (list.empty()) {
-        m_objects.erase(found);
+        erased.swap(found->second);
+        contents.erase(found);
     }
     return lock.releaseWith(VEX_CM_SUCCESS);
 }

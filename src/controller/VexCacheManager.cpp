@@ -1,8 +1,10 @@
-// The repository itself and its whole-entry writes: add, swap and flush.
+// The repository itself, the generation a caller works on, and the
+// whole-entry writes: add, swap and flush.
 #include "controller/VexCacheManager.h"
 
 #include "controller/CacheKeyMatch.h"
 #include "controller/CacheTrace.h"
+#include "controller/CallerThread.h"
 #include "controller/RepositoryLock.h"
 
 namespace vex::cim::fwf {
@@ -17,21 +19,66 @@ VexCacheManager::~VexCacheManager() {
     TkzReadWriteLockDestroy(&m_lock);
 }
 
+bool VexCacheManager::callerIsUpdater() {
+    const unsigned long long updater = threadId.load();
+    return updater != cache::kNoThread && cache::callerThreadId() == updater;
+}
+
+// A list never handed out is changed in place; a shared one is copied first
+// (the copy shares the instances, not their values).
+VexCacheManager::Instances& VexCacheManager::writable(SharedList& list) {
+    if (list->shared.load(std::memory_order_relaxed)) {
+        list = std::make_shared<InstanceList>(list->items);
+    }
+    return list->items;
+}
+
+void VexCacheManager::shareAll(const Contents& contents) {
+    for (const auto& entry : contents) {
+        entry.second->share();
+    }
+}
+
+VexCacheManager::Contents& VexCacheManager::writableContents(bool updater) {
+    if (!updater) {
+        return m_published;
+    }
+    if (!m_staged) {
+        shareAll(m_published);
+        m_staged = m_published;  // shares every list
+    }
+    return *m_staged;
+}
+
+const VexCacheManager::Contents& VexCacheManager::readableContents(bool updater) const {
+    return updater && m_staged ? *m_staged : m_published;
+}
+
+void VexCacheManager::publishStaged() {
+    Contents replaced;  // freed outside the lock
+    RepositoryLock lock(m_lock, RepositoryLock::Mode::Write);
+    if (lock.held() && m_staged) {
+        replaced.swap(m_published);
+        m_published.swap(*m_staged);
+        m_staged.reset();
+    }
+}
+
 unsigned int VexCacheManager::addObjInstance(_eVEXObjectType type, const CIMInstance& inst) {
     CacheTrace trace("ENTER::addObjInstance", "EXIT::addObjInstance");
-    CachedInstance copy(inst);  // copied before locking: the lock covers only compare and store
+    CachedInstance copy(inst);  // made before locking: the lock covers only compare and store
+    const bool updater = callerIsUpdater();
     RepositoryLock lock(m_lock, RepositoryLock::Mode::Write);
     if (!lock.held()) {
         return VEX_CM_SYSTEM_ERROR;
     }
-    const auto found = m_objects.find(type);
-    if (found == m_objects.end()) {
-        std::vector<CachedInstance> list;
-        list.push_back(std::move(copy));
-        m_objects.emplace(type, std::move(list));
+    Contents& contents = writableContents(updater);
+    const auto found = contents.find(type);
+    if (found == contents.end()) {
+        contents.emplace(type, std::make_shared<InstanceList>(Instances(1, std::move(copy))));
         return lock.releaseWith(VEX_CM_SUCCESS);
     }
-    for (const CachedInstance& stored : found->second) {
+    for (const CachedInstance& stored : found->second->items) {
         if (cache::sameIdentity(copy, stored)) {
             if (!lock.release()) {
                 return VEX_CM_SYSTEM_ERROR;
@@ -41,40 +88,63 @@ unsigned int VexCacheManager::addObjInstance(_eVEXObjectType type, const CIMInst
             return VEX_CM_ENTRY_ALREADY_EXIST;
         }
     }
-    found->second.push_back(std::move(copy));
+    writable(found->second).push_back(std::move(copy));
     return lock.releaseWith(VEX_CM_SUCCESS);
+}
+
+unsigned int VexCacheManager::exchange(_eVEXObjectType type, SharedList& list, bool& exchanged) {
+    exchanged = false;
+    const bool updater = callerIsUpdater();
+    RepositoryLock lock(m_lock, RepositoryLock::Mode::Write);
+    if (!lock.held()) {
+        return VEX_CM_SYSTEM_ERROR;
+    }
+    Contents& contents = writableContents(updater);
+    const auto found = contents.find(type);
+    if (found == contents.end()) {
+        contents.emplace(type, std::move(list));  // the caller keeps its own list
+        return lock.releaseWith(VEX_CM_SUCCESS);
+    }
+    found->second.swap(list);
+    exchanged = true;
+    return lock.releaseWith(VEX_CM_SUCCESS);
+}
+
+unsigned int VexCacheManager::swapCachedInstances(_eVEXObjectType type,
+                                                  std::vector<CachedInstance>& list) {
+    CacheTrace trace("ENTER::swapObjectInstance", "EXIT::swapObjectInstance");
+    SharedList shared = std::make_shared<InstanceList>(list);
+    bool exchanged = false;
+    const unsigned int result = exchange(type, shared, exchanged);
+    if (exchanged) {
+        list = shared->items;  // the previous contents, taken outside the lock
+    }
+    return result;
 }
 
 unsigned int VexCacheManager::swapObjectInstance(_eVEXObjectType type,
                                                  std::vector<CIMInstance>& list) {
     CacheTrace trace("ENTER::swapObjectInstance", "EXIT::swapObjectInstance");
-    std::vector<CachedInstance> incoming = cache::toCached(list);
-    RepositoryLock lock(m_lock, RepositoryLock::Mode::Write);
-    if (!lock.held()) {
-        return VEX_CM_SYSTEM_ERROR;
+    SharedList shared = std::make_shared<InstanceList>(cache::toCached(list));
+    bool exchanged = false;
+    const unsigned int result = exchange(type, shared, exchanged);
+    if (exchanged) {
+        std::vector<CIMInstance> previous;
+        cache::appendInstances(shared->items, previous);
+        list.swap(previous);
     }
-    const auto found = m_objects.find(type);
-    if (found == m_objects.end()) {
-        m_objects.emplace(type, std::move(incoming));  // the caller keeps its list
-        return lock.releaseWith(VEX_CM_SUCCESS);
-    }
-    found->second.swap(incoming);
-    const unsigned int result = lock.releaseWith(VEX_CM_SUCCESS);
-    // The previous contents go back to the caller; built outside the lock.
-    std::vector<CIMInstance> previous;
-    cache::appendInstances(incoming, previous);
-    list.swap(previous);
     return result;
 }
 
 unsigned int VexCacheManager::flushCache() {
     CacheTrace trace("ENTER::flushCache", "EXIT::flushCache");
     Contents erased;
+    const bool updater = callerIsUpdater();
     RepositoryLock lock(m_lock, RepositoryLock::Mode::Write);
     if (!lock.held()) {
         return VEX_CM_SYSTEM_ERROR;
     }
-    erased.swap(m_objects);  // freed after the lock is released
+    erased.swap(writableContents(updater));  // freed after the lock is released
     return lock.releaseWith(VEX_CM_SUCCESS);
 }
 

@@ -15,11 +15,21 @@
 //
 // Every member operation answers with a VEX_CM_... code. Readers always
 // receive copies: nothing outside the cache ever holds a reference into it.
+//
+// Storage: instances are kept as handles to immutable records whose values
+// live once in a shared pool (CachedInstance.h, cache/PropertyPool.h), and
+// a type's list is shared between the repositories, the update thread's
+// staged generation and readers until one of them writes to it. A reader
+// copies out of its share of a list after the lock is released, and always
+// reads one complete generation: the update thread's writes become visible
+// to others only as a whole.
 #ifndef VEX_CONTROLLER_VEXCACHEMANAGER_H
 #define VEX_CONTROLLER_VEXCACHEMANAGER_H
 
 #include <atomic>
 #include <map>
+#include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -116,23 +126,62 @@ public:
     static void setSVexCacheRepoNewIsLatest(bool isLatest);
     static void setSVexCacheRepoOldIsLatest(bool isLatest);
 
+    // As swapObjectInstance, for instances already in the cache's own form
+    // (a cache build collects them so); list receives the previous contents.
+    unsigned int swapCachedInstances(_eVEXObjectType type,
+                                     std::vector<cache::CachedInstance>& list);
+
 private:
     friend class VexCacheManagerCleanUp;
     friend struct VexCacheManagerTestAccess;  // tests reset the process-wide state
 
-    using Contents = std::map<_eVEXObjectType, std::vector<cache::CachedInstance>>;
+    // A type's instances. A list is shared - by both repositories after a
+    // copy, with a staged generation, with readers still copying out of it -
+    // and once it has been handed out so it is never changed again: a write
+    // to it first makes a list of this repository's own (writable). The
+    // mark is set under the repository lock (read or write) and read under
+    // the write lock, so the lock orders the two.
+    using Instances = std::vector<cache::CachedInstance>;
+    struct InstanceList {
+        Instances items;
+        mutable std::atomic<bool> shared{false};
+
+        explicit InstanceList(Instances list) : items(std::move(list)) {}
+        void share() const { shared.store(true, std::memory_order_relaxed); }
+    };
+    using SharedList = std::shared_ptr<InstanceList>;
+    using Contents = std::map<_eVEXObjectType, SharedList>;
 
     static void createRepositories();
     static VexCacheManager* chooseRepository(bool current);
-    // Copies of every non-empty type, each list with repeated instances
-    // dropped as repeated addObjInstance calls would; false if the read lock
-    // failed.
+    static bool callerIsUpdater();
+    static Instances& writable(SharedList& list);
+    static void shareAll(const Contents& contents);
+    // Puts list in place of type's list and hands back the previous one
+    // (exchanged true); a type without entry gets list itself.
+    unsigned int exchange(_eVEXObjectType type, SharedList& list, bool& exchanged);
+
+    // What the caller works on, under the repository lock. Every thread but
+    // the update thread sees the published generation. The update thread's
+    // writes go to a staged generation of its own, made from the published
+    // one on its first write, so a reader that still holds this repository
+    // (from before a role swap) never sees a rebuild half done; the staged
+    // generation is published as a whole by copyNewCachetoOldCache or
+    // exitCacheUpdate.
+    Contents& writableContents(bool updater);
+    const Contents& readableContents(bool updater) const;
+    // Makes the staged generation, if any, the published one.
+    void publishStaged();
+    // The latest generation (staged, else published), with the repeats of
+    // each list dropped as repeated addObjInstance calls would; false if the
+    // lock failed.
     bool distinctCopy(Contents& copy) const;
-    // Puts contents in place of this repository's in one step under the
-    // write lock; contents receives the replaced ones.
+    // Makes contents this repository's published generation, dropping any
+    // staged one; contents receives the replaced ones.
     void install(Contents& contents);
 
-    Contents m_objects;
+    Contents m_published;
+    std::optional<Contents> m_staged;
     TKZ_RWLOCK m_lock;
 
     // Written by the update thread (and the first getInstance), read by every

@@ -1,5 +1,8 @@
-// getRepositoryObject: the one read of the cache. It holds the read lock for
-// the whole lookup and copy; what it hands out are copies the caller owns.
+// getRepositoryObject: the one read of the cache. The read lock is held only
+// to take a share of the type's list; the lookup and the copies are made from
+// that list after the lock is released (a list is never changed while it is
+// shared), so one slow answer never holds up the writers. What it hands out
+// are copies the caller owns.
 #include "controller/CacheKeyMatch.h"
 #include "controller/CacheTrace.h"
 #include "controller/RepositoryLock.h"
@@ -91,12 +94,15 @@ unsigned int VexCacheManager::getRepositoryObject(_eVEXObjectType type,
                                                   bool keysOnly,
                                                   std::vector<CIMInstance>& out) const {
     CacheTrace trace("ENTER::getRepositoryObject", "EXIT::getRepositoryObject");
+    const bool updater = callerIsUpdater();
+    std::shared_ptr<const InstanceList> list;
     RepositoryLock lock(m_lock, RepositoryLock::Mode::Read);
     if (!lock.held()) {
         return VEX_CM_SYSTEM_ERROR;
     }
-    const auto found = m_objects.find(type);
-    if (found == m_objects.end()) {
+    const Contents& contents = readableContents(updater);
+    const auto found = contents.find(type);
+    if (found == contents.end()) {
         if (!lock.release()) {
             TkzLogMsg(TKZ_LOG_FATAL, "VEX_CM_SYSTEM_ERROR:: TkzReadWriteLock_ReadUnLock");
             return VEX_CM_SYSTEM_ERROR;
@@ -105,10 +111,13 @@ unsigned int VexCacheManager::getRepositoryObject(_eVEXObjectType type,
                   static_cast<int>(type));
         return VEX_CM_DEVTYPE_NOT_EXIST;
     }
+    list = found->second;
+    list->share();
+    const bool released = lock.release();
     const ReadOutcome outcome = viewClass.empty()
-                                    ? readBase(found->second, keys, keysOnly, out)
-                                    : readView(found->second, viewClass, keys, keysOnly, out);
-    if (!lock.release()) {
+                                    ? readBase(list->items, keys, keysOnly, out)
+                                    : readView(list->items, viewClass, keys, keysOnly, out);
+    if (!released) {
         return VEX_CM_SYSTEM_ERROR;
     }
     switch (outcome) {

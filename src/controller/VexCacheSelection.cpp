@@ -95,9 +95,16 @@ void VexCacheManager::initCacheUpdate() {
     threadId.store(cache::callerThreadId());
 }
 
+// What the update thread staged and did not yet hand over through
+// copyNewCachetoOldCache becomes, as a whole, what everyone sees.
 void VexCacheManager::exitCacheUpdate() {
     CacheTrace trace("ENTER::exitCacheUpdate", "EXIT::exitCacheUpdate");
     threadId.store(cache::kNoThread);
+    for (VexCacheManager* repository : {sVexCacheRepoNew.load(), sVexCacheRepoOld.load()}) {
+        if (repository != nullptr) {
+            repository->publishStaged();
+        }
+    }
 }
 
 void VexCacheManager::reverseCacheSwapFlag() {
