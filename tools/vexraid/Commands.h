@@ -31,6 +31,7 @@ void addWatchCommand(CLI::App& app, Cli& cli);         // watch
 void addJobCommand(CLI::App& app, Cli& cli);           // job
 void addSummaryCommand(CLI::App& app, Cli& cli);       // summary
 void addClassesCommand(CLI::App& app, Cli& cli);       // classes
+void addMonitorCommands(CLI::App& app, Cli& cli);     // health, metrics
 
 }  // namespace vexraid
 

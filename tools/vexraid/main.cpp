@@ -43,6 +43,7 @@ int main(int argc, char** argv) {
     addJobCommand(app, cli);
     addSummaryCommand(app, cli);
     addClassesCommand(app, cli);
+    addMonitorCommands(app, cli);
     app.require_subcommand(1);
     const int parsed = guarded([&] {
         try {
