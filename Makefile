@@ -4,12 +4,13 @@ BUILD    ?= build
 JOBS     ?= $(shell nproc)
 CMAKE_ARGS ?=
 
-.PHONY: all deps configure build test demo asan tsan clean
+.PHONY: all deps configure build test demo asan tsan fuzz clean
 
 all: build
 
 deps:
 	@scripts/install-deps.sh
+	@scripts/install-fuzz-deps.sh
 
 configure: deps
 	@cmake -S . -B $(BUILD) -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo $(CMAKE_ARGS) >/dev/null
@@ -30,5 +31,11 @@ asan:
 tsan:
 	@$(MAKE) --no-print-directory test BUILD=build-tsan CMAKE_ARGS="-DVEX_SANITIZE=thread -DVEX_BUILD_BENCH=OFF"
 
+# The libFuzzer targets in their own clang tree (build-fuzz), each run for
+# FUZZ_SECONDS; make test runs each for a few seconds (test fuzz_smoke).
+FUZZ_SECONDS ?= 300
+fuzz: deps
+	@scripts/fuzz.sh --tree build-fuzz --seconds $(FUZZ_SECONDS) --jobs $(JOBS)
+
 clean:
-	rm -rf build build-asan build-tsan
+	rm -rf build build-asan build-tsan build-fuzz
