@@ -5,6 +5,7 @@
 #include <unistd.h>
 
 #include <chrono>
+#include <cstdio>
 #include <cstdlib>
 #include <filesystem>
 #include <iostream>
@@ -64,7 +65,9 @@ void printVerdict(Printer& printer, const Verdict& verdict, const RaidState* sta
 }
 
 int health(const Options& options, const MonitorOptions& monitor, Printer& printer) {
-    const std::string late = "RAID UNKNOWN - no answer within " + std::to_string(static_cast<long long>(monitor.timeout)) + " s";
+    char seconds[32];
+    std::snprintf(seconds, sizeof seconds, "%g", monitor.timeout);
+    const std::string late = std::string("RAID UNKNOWN - no answer within ") + seconds + " s";
     Watchdog watchdog(monitor.timeout,
                       printer.json() ? jsonText(verdictJson(unknownVerdict(late.substr(15)), nullptr), true) + "\n" : late + "\n",
                       static_cast<int>(Level::Unknown));
