@@ -7,12 +7,13 @@ CMAKE_ARGS ?=
 export CCACHE_BASEDIR := $(CURDIR)
 export CCACHE_NOHASHDIR := 1
 
-.PHONY: all deps configure build test demo asan tsan stress clean
+.PHONY: all deps configure build test demo asan tsan stress fuzz clean
 
 all: build
 
 deps:
 	@scripts/install-deps.sh
+	@scripts/install-fuzz-deps.sh
 
 configure: deps
 	@cmake -S . -B $(BUILD) -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo $(CMAKE_ARGS) >/dev/null
@@ -44,5 +45,11 @@ stress:
 	@cmake --build build-tsan -j $(JOBS) --target vex_stress
 	@TSAN_OPTIONS=halt_on_error=1 build-tsan/tests/stress/vex_stress --seconds $(STRESS_SECONDS) --max-growth-mb 256
 
+# The libFuzzer targets in their own clang tree (build-fuzz), each run for
+# FUZZ_SECONDS; make test runs each for a few seconds (test fuzz_smoke).
+FUZZ_SECONDS ?= 300
+fuzz: deps
+	@scripts/fuzz.sh --tree build-fuzz --seconds $(FUZZ_SECONDS) --jobs $(JOBS)
+
 clean:
-	rm -rf build build-asan build-tsan
+	rm -rf build build-asan build-tsan build-fuzz

@@ -7,6 +7,7 @@ packages=(
   libgtest-dev libgmock-dev libbenchmark-dev
   nlohmann-json3-dev libcli11-dev
   libpam0g-dev
+  python3-prometheus-client
 )
 
 missing=()

@@ -32,6 +32,7 @@ void addJobCommand(CLI::App& app, Cli& cli);           // job
 void addSummaryCommand(CLI::App& app, Cli& cli);       // summary
 void addClassesCommand(CLI::App& app, Cli& cli);       // classes
 void addVolumeCommands(CLI::App& app, Cli& cli);       // volume, spare, verify, locate
+void addMonitorCommands(CLI::App& app, Cli& cli);     // health, metrics
 
 }  // namespace vexraid
 

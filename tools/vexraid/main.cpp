@@ -44,6 +44,7 @@ int main(int argc, char** argv) {
     addSummaryCommand(app, cli);
     addClassesCommand(app, cli);
     addVolumeCommands(app, cli);
+    addMonitorCommands(app, cli);
     app.require_subcommand(1);
     const int parsed = guarded([&] {
         try {
