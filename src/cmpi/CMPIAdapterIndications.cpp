@@ -133,8 +133,10 @@ bool CMPIAdapter::DeliverIndication(CIMInstance& instance) {
         TkzLogMsg(TKZ_LOG_ERROR, "Failed to get CMPIAdapter singleton instance");
         return false;
     }
-    if (m_numOfSubscriptions.load() <= 0) {
-        // Nobody listens: dropping the indication is a success.
+    if (m_numOfSubscriptions.load() == 0) {
+        // Nobody listens: dropping the indication is a success. The count
+        // has no lower bound (a disable the object manager sends twice takes
+        // it below zero), and only zero means nobody.
         TkzLogMsg(TKZ_LOG_INFO, "No subscription to service indications");
         return true;
     }

@@ -98,6 +98,12 @@ TEST_F(AdapterIndicationTest, DeliveryStaysOnUntilEverySubscriptionIsGone) {
     disable();
     EXPECT_TRUE(deliverFromEventThread(indication()));
     EXPECT_EQ(host.indications().count(), 1u);
+    // Only a count of exactly zero silences delivery; one disable too many
+    // leaves it below zero, and indications go out again.
+    disable();
+    EXPECT_TRUE(deliverFromEventThread(indication()));
+    EXPECT_EQ(host.indications().count(), 2u);
+    enable();
 }
 
 TEST_F(AdapterIndicationTest, FailuresOnTheWayAreReported) {
