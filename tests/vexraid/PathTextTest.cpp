@@ -62,6 +62,8 @@ TEST(PathText, RefusesMalformedPathsNamingTheColumn) {
         {"", "expected a class name at column 1"},
         {"9Class", "expected a class name"},
         {":VEX_Card", "empty namespace"},
+        {"root//x:VEX_Card", "empty namespace segment"},
+        {"//h//root:VEX_Card", "empty namespace segment"},
         {"VEX_Card.", "expected a key name at column 10"},
         {"VEX_Card.Tag", "expected '=' after Tag"},
         {"VEX_Card.Tag=", "expected a key value"},

@@ -65,7 +65,12 @@ private:
         while (end < m_text.size() && isNamespaceChar(m_text[end])) ++end;
         if (end < m_text.size() && m_text[end] == ':') {
             if (end == m_pos) fail("empty namespace");
-            path.nameSpace = m_text.substr(m_pos, end - m_pos);
+            const std::string nameSpace = m_text.substr(m_pos, end - m_pos);
+            if (nameSpace.front() == '/' || nameSpace.back() == '/' ||
+                nameSpace.find("//") != std::string::npos) {
+                fail("empty namespace segment");
+            }
+            path.nameSpace = nameSpace;
             m_pos = end + 1;
         } else {
             path.nameSpace = defaultNamespace;
