@@ -30,5 +30,8 @@ controller='VEX_ControllerComputerSystem.CreationClassName="VEX_ControllerComput
 run summary
 run ein CIM_ComputerSystem
 run ei VEX_Battery -p DeviceID,BatteryStatus,isSuperCap
+# Associations by DMTF names, as SMI-S clients ask.
+run ain "${controller/vexController_0/vexController_1}" -a CIM_SystemDevice -r CIM_DiskDrive
+run health
 # Methods and modifications need a member of the root group.
 run --user nobody cm "$controller" Rescan || true
