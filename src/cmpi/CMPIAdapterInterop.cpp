@@ -69,7 +69,7 @@ void CMPIAdapter::getPegasusSMISProfRegObjPaths() {
     TkzLogMsg(TKZ_LOG_INFO, "Initializing the PG_* object paths for SMI-S Registered Profiles");
     const CMPIBroker* broker = getBroker();
     CMPIObjectPath* classPath =
-        calls::newObjectPath(broker, fwf::kInteropNameSpace, "PG_RegisteredProfile");
+        calls::newObjectPath(broker, fwf::interopNameSpace(), "PG_RegisteredProfile");
     if (classPath == nullptr) {
         TkzLogMsg(TKZ_LOG_ERROR, "Failed to create association class name object path");
         return;
