@@ -6,7 +6,8 @@
 # for the same requests, against vexraid. Then stops the object manager and
 # fails when it reports a crash.
 #
-# usage: scripts/cimom-test.sh sfcb|pegasus [BUILD_DIR]       (as root)
+# usage: scripts/cimom-test.sh sfcb|pegasus|all [BUILD_DIR]       (as root)
+#   all: sfcb, then OpenPegasus (one object manager at a time).
 #
 # The prebuilt object managers come from the shared directory beside the
 # repository (../shared/cimom, ../shared/pegasus; VEX_SHARED_DIR overrides).
@@ -14,7 +15,7 @@
 # loopback addresses are used; every client call has a timeout.
 set -euo pipefail
 
-cimom=${1:?usage: cimom-test.sh sfcb|pegasus [BUILD_DIR]}
+cimom=${1:?usage: cimom-test.sh sfcb|pegasus|all [BUILD_DIR]}
 repo=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 build=$(cd "${2:-$repo/build}" && pwd)
 say() { echo "cimom-test[$cimom]: $*" >&2; }
@@ -29,16 +30,25 @@ shared_dir() {
     done
 }
 shared=$(shared_dir || true)
+if [[ -z $shared ]]; then
+    echo "cimom-test: SKIPPED: no prebuilt object managers (../shared/cimom and ../shared/pegasus beside the repository)"
+    exit 0
+fi
+if [[ $(id -u) != 0 ]]; then
+    echo "cimom-test: SKIPPED: the object manager tests run as root (they start sfcb and OpenPegasus and add test users)"
+    exit 0
+fi
+if [[ $cimom == all ]]; then
+    rc=0
+    "${BASH_SOURCE[0]}" sfcb "$build" || rc=1
+    "${BASH_SOURCE[0]}" pegasus "$build" || rc=1
+    exit $rc
+fi
 case $cimom in
     sfcb) up=$shared/cimom/sfcb-up; down=$shared/cimom/sfcb-down; port=${VEX_SFCB_PORT:-5988} ;;
     pegasus) up=$shared/pegasus/pegasus-up; down=$shared/pegasus/pegasus-down; port=${VEX_PEGASUS_PORT:-5990} ;;
-    *) echo "usage: cimom-test.sh sfcb|pegasus [BUILD_DIR]" >&2; exit 64 ;;
+    *) echo "usage: cimom-test.sh sfcb|pegasus|all [BUILD_DIR]" >&2; exit 64 ;;
 esac
-if [[ -z $shared || ! -x $up ]]; then
-    echo "cimom-test[$cimom]: SKIPPED: no prebuilt object managers (../shared/cimom and ../shared/pegasus beside the repository)"
-    exit 0
-fi
-[[ $(id -u) == 0 ]] || { say "must run as root (installs packages, starts the object manager, adds test users)"; exit 1; }
 for tool in wbemcli python3; do
     command -v "$tool" > /dev/null || "$repo/scripts/install-deps.sh"
 done
