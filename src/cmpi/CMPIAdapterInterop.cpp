@@ -1,7 +1,10 @@
 // The object manager's own registered profiles. Our profile associations
 // point from the provider's profiles to the object manager's SMI-S and Server
 // profiles, so their paths are looked up once, at initialisation, in the
-// interop namespace and kept in the two globals the plug-ins read.
+// interop namespace and kept in the two globals the plug-ins read. The class
+// looked for, PG_RegisteredProfile, is OpenPegasus' own, so it is looked for
+// in OpenPegasus' interop namespace whichever object manager loaded us (sfcb
+// has no such class: nothing is found there).
 #include <string>
 
 #include "cmpi/CMPIAdapter.h"
@@ -69,7 +72,7 @@ void CMPIAdapter::getPegasusSMISProfRegObjPaths() {
     TkzLogMsg(TKZ_LOG_INFO, "Initializing the PG_* object paths for SMI-S Registered Profiles");
     const CMPIBroker* broker = getBroker();
     CMPIObjectPath* classPath =
-        calls::newObjectPath(broker, fwf::interopNameSpace(), "PG_RegisteredProfile");
+        calls::newObjectPath(broker, fwf::kInteropNameSpace, "PG_RegisteredProfile");
     if (classPath == nullptr) {
         TkzLogMsg(TKZ_LOG_ERROR, "Failed to create association class name object path");
         return;
