@@ -68,8 +68,10 @@ provider_dir=$(dirname "$(find "$prefix" -name libvexRAIDProvider15.so | head -1
 d=$prefix/share/vexRAIDProvider15
 
 # 2. Two users with passwords: one whose primary group is 0 (may run methods)
-#    and one whose is not.
+#    and one whose is not. They exist only for the run.
 admin=vexcimadm user=vexcimusr password=Vex-cimom-1
+remove_users() { userdel "$admin" > /dev/null 2>&1 || true; userdel "$user" > /dev/null 2>&1 || true; }
+trap remove_users EXIT
 id "$admin" > /dev/null 2>&1 || useradd -M -N -g 0 -s /usr/sbin/nologin "$admin"
 id "$user" > /dev/null 2>&1 || useradd -M -N -g users -s /usr/sbin/nologin "$user"
 printf '%s:%s\n%s:%s\n' "$admin" "$password" "$user" "$password" | chpasswd
@@ -87,7 +89,7 @@ stop() {
     started=0
     "$down" "$instance"
 }
-trap 'stop > /dev/null 2>&1 || true' EXIT
+trap 'stop > /dev/null 2>&1 || true; remove_users' EXIT
 
 # 4. The object manager, set up as the guide in README.md says.
 if [[ $cimom == sfcb ]]; then

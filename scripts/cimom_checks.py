@@ -268,6 +268,23 @@ def check_methods(run, controllers):
               "getRoutineList as %s is refused" % user)
 
 
+def check_client_habits(run, hosts):
+    """What wbemcli's habits meet (settled behaviour, see README.md): ain
+    without an association class, mi without a PropertyList."""
+    if not hosts:
+        return
+    host = hosts[0]
+    run.agree("ain without -ac from the host system", run.wbem("ain", host), run.vex("ain", host))
+    if run.args.cimom == "sfcb":
+        # sfcb hands the missing association class on: the provider refuses.
+        code, _ = run.wbem("ain", host)
+        run.check(code == 4, "ain without -ac is refused with CIM_ERR_INVALID_PARAMETER (%s)" % code)
+        # wbemcli mi sends no PropertyList, which sfcb hands on: refused.
+        # (OpenPegasus hands the provider a list even then.)
+        code, _ = run.wbem("mi", host, extra=["ElementName=x"])
+        run.check(code == 4, "mi without a PropertyList is refused with CIM_ERR_INVALID_PARAMETER (%s)" % code)
+
+
 def check_indications(run):
     # Hook for the indication subscription checks (filter, handler and
     # subscription in the interop namespace, a change on the simulator, the
@@ -282,6 +299,7 @@ def main():
     run = Run(p.parse_args())
     started = time.time()
     controllers = []
+    hosts = []
     listed = classes(run)
     served = {cls.lower(): spaces for cls, spaces, _ in listed}
     for cls, spaces, association in listed:
@@ -289,11 +307,14 @@ def main():
             paths = check_class(run, cls, ns)
             if cls == "VEX_ControllerComputerSystem" and ns == IMPL:
                 controllers = paths
+            if cls == "VEX_HostComputerSystem" and ns == IMPL:
+                hosts = paths
             if association:
                 check_association(run, cls, ns, spaces, served)
     check_superclasses(run)
     check_discovery(run)
     check_methods(run, controllers)
+    check_client_habits(run, hosts)
     check_indications(run)
     for note in run.notes:
         print("note: " + note)
