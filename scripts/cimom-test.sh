@@ -91,16 +91,26 @@ stop() {
 }
 trap 'stop > /dev/null 2>&1 || true; remove_users' EXIT
 
-# 4. The object manager, set up as the guide in README.md says.
+# 4. The object manager, set up as the guide in README.md says; each step of
+#    the guide is logged in guide.log.
+guide() {
+    echo "\$ $*" >> "$work/guide.log"
+    timeout 600 "$@" >> "$work/guide.log" 2>&1 && return 0
+    say "guide step failed: $*"; tail -5 "$work/guide.log" >&2; return 1
+}
 if [[ $cimom == sfcb ]]; then
-    # sfcbstage into both namespaces (the interop one in lower case), sfcbrepos,
-    # providerDirs, basic authentication, a larger maxMsgLen: what sfcb-up does
-    # with these options.
+    # Prepare the instance (its own copy of the staging area), then the guide:
+    # sfcbstage into both namespaces (the interop one in lower case) and
+    # sfcbrepos, here with the instance's staging and repository directories;
+    # providerDirs, basic authentication and maxMsgLen go into its sfcb.cfg.
+    "$up" --no-start "$instance" > /dev/null 2> "$work/up.log" || { cat "$work/up.log" >&2; exit 1; }
+    export PATH=/opt/sfcb/bin:$PATH
+    guide sfcbstage -s "$instance/stage" -n root/tkz/vex/smi_15 -r "$d/sfcb/vexRAIDProvider15.reg" \
+        "$d/mof/vexRAIDProvider15.mof" || exit 1
+    guide sfcbstage -s "$instance/stage" -n root/interop "$d/mof/vexRAIDProvider15-interop.mof" || exit 1
+    guide sfcbrepos -f -s "$instance/stage" -r "$instance/registration" || exit 1
     "$up" --port "$port" --auth --cred "$admin:$password" --provider-dir "$provider_dir" \
-        --max-msg-len 100000000 \
-        --stage root/tkz/vex/smi_15 "$d/mof/vexRAIDProvider15.mof" \
-        --stage root/interop "$d/mof/vexRAIDProvider15-interop.mof" \
-        --reg "$d/sfcb/vexRAIDProvider15.reg" "$instance" > "$work/pid" 2> "$work/up.log" \
+        --max-msg-len 100000000 "$instance" > "$work/pid" 2>> "$work/up.log" \
         || { cat "$work/up.log" >&2; exit 1; }
     started=1
 else
@@ -108,7 +118,6 @@ else
     # Prepare the instance (its own copy of the repository), then the guide:
     # the DMTF schema into the provider namespace with the server stopped...
     "$up" --no-start "$instance" > /dev/null 2> "$work/up.log" || { cat "$work/up.log" >&2; exit 1; }
-    guide() { echo "\$ $*" >> "$work/guide.log"; timeout 600 "$@" >> "$work/guide.log" 2>&1 || { say "guide step failed: $*"; tail -5 "$work/guide.log" >&2; return 1; }; }
     schema=/opt/pegasus/share/pegasus/CIM241
     (cd "$schema" && guide cimmofl -R "$PEGASUS_HOME" -M BIN -n root/tkz/vex/smi_15 CIM_Schema.mof) || exit 1
     "$up" --port "$port" --auth --cred "$admin:$password" "$instance" > "$work/pid" 2>> "$work/up.log" \
