@@ -3,11 +3,14 @@
 BUILD    ?= build
 JOBS     ?= $(shell nproc)
 CMAKE_ARGS ?=
+# ccache (when installed) shares its results between clones of the project.
+export CCACHE_BASEDIR := $(CURDIR)
+export CCACHE_NOHASHDIR := 1
 # make test also runs the provider inside the real object managers (not for
 # sanitizer builds: an object manager cannot load a sanitized provider).
 CIMOM_TESTS ?= yes
 
-.PHONY: all deps configure build test demo asan tsan clean cimom-build cimom-test sfcb-test pegasus-test
+.PHONY: all deps configure build test demo asan tsan stress clean cimom-build cimom-test sfcb-test pegasus-test
 
 all: build
 
@@ -47,6 +50,17 @@ sfcb-test: cimom-build
 
 pegasus-test: cimom-build
 	@scripts/cimom-test.sh pegasus $(BUILD)
+
+# The stress run (tests/stress) for STRESS_SECONDS under ASan/UBSan, then
+# under TSan; the suite runs it for a minute in the plain build.
+STRESS_SECONDS ?= 600
+stress:
+	@$(MAKE) --no-print-directory configure BUILD=build-asan CMAKE_ARGS="-DVEX_SANITIZE=address -DVEX_BUILD_BENCH=OFF"
+	@cmake --build build-asan -j $(JOBS) --target vex_stress
+	@ASAN_OPTIONS=quarantine_size_mb=32 build-asan/tests/stress/vex_stress --seconds $(STRESS_SECONDS) --max-growth-mb 128
+	@$(MAKE) --no-print-directory configure BUILD=build-tsan CMAKE_ARGS="-DVEX_SANITIZE=thread -DVEX_BUILD_BENCH=OFF"
+	@cmake --build build-tsan -j $(JOBS) --target vex_stress
+	@TSAN_OPTIONS=halt_on_error=1 build-tsan/tests/stress/vex_stress --seconds $(STRESS_SECONDS) --max-growth-mb 256
 
 clean:
 	rm -rf build build-asan build-tsan

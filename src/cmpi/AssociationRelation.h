@@ -19,6 +19,18 @@ namespace vex::cim::adap::cmpi {
 bool isRelatedAssociation(fwf::FrameworkFacade& facade, const fwf::CIMObjectPath& source,
                           const std::string& assocClass, const CMPIBroker* broker);
 
+// How a result-class filter reads for one association class. Clients name
+// DMTF classes ("CIM_ComputerSystem"); an association compares its end
+// classes with the filter by name. The filter for the association is
+// written to `endFilter`: the filter itself when an end class's name
+// contains it, else the one end class that derives from it (the object
+// manager answers), or empty when ends on both sides derive from it (no
+// filtering needed). False when no end class is named by or derives from the
+// filter: the association has no result of that class.
+bool resultClassFilter(fwf::FrameworkFacade& facade, const std::string& assocClass,
+                       const fwf::CIMObjectPath& source, const std::string& resultClass,
+                       const CMPIBroker* broker, std::string& endFilter);
+
 }  // namespace vex::cim::adap::cmpi
 
 #endif

@@ -1,8 +1,10 @@
 // Association requests. A request that names its association class is served
 // by that class's plug-in alone - with no results when the source class is at
-// neither end; one that names none goes through every association class the
-// source takes part in. For References and ReferenceNames the result class
-// names the association.
+// neither end; one that names a class of the CIM schema by every served
+// association derived from it; one that names none by every association class
+// the source takes part in. For References and ReferenceNames the result class
+// names the association; for Associators and AssociatorNames it filters the
+// far ends, by name or by derivation (resultClassFilter).
 #include <string>
 #include <vector>
 
@@ -11,6 +13,8 @@
 #include "cmpi/CMPIAdapterSupport.h"
 #include "cmpi/CMPIHelper.h"
 #include "framework/AbstractAssociationProviderPlugin.h"
+#include "framework/CommonFunctions.h"
+#include "framework/PluginRegistry.h"
 
 namespace vex::cim::adap::cmpi {
 
@@ -21,6 +25,22 @@ using support::text;
 
 namespace {
 
+bool isSchemaClass(const std::string& className) {
+    return fwf::CommonFunctions::toLower(className.substr(0, 4)) == "cim_";
+}
+
+// A registered association class whose plug-in is not part of this build.
+bool isUnbuiltAssociation(const std::string& className) {
+    const std::string name = fwf::CommonFunctions::toLower(className);
+    for (std::size_t i = 0; i < fwf::pluginRegistrationCount(); ++i) {
+        const fwf::PluginRegistration& row = fwf::pluginRegistrations()[i];
+        if (row.group == fwf::PluginGroup::Association && name == row.name) {
+            return row.factory == nullptr;
+        }
+    }
+    return false;
+}
+
 std::vector<std::string> namedAssociation(fwf::FrameworkFacade& facade,
                                           const fwf::CIMObjectPath& source,
                                           const std::string& assocClass,
@@ -28,6 +48,18 @@ std::vector<std::string> namedAssociation(fwf::FrameworkFacade& facade,
     auto* plugin =
         dynamic_cast<fwf::AbstractAssociationProviderPlugin*>(facade.getPlugIn(assocClass));
     if (plugin == nullptr) {
+        // A class of the CIM schema ("CIM_ElementConformsToProfile"): every
+        // served association derived from it.
+        std::vector<std::string> derived;
+        CMPIHelper::GetAssociationClasses(source, assocClass.c_str(), broker, derived);
+        if (!derived.empty() || isSchemaClass(assocClass)) {
+            return derived;
+        }
+        if (isUnbuiltAssociation(assocClass)) {
+            TkzLogMsg(TKZ_LOG_ERROR, "%s :: no plug-in serves association class %s",
+                      "associationClasses", assocClass.c_str());
+            return {};  // links nothing yet; the other classes of the request still answer
+        }
         TkzLogMsg(TKZ_LOG_ERROR, "Failed to get plugin for association class");
         throw fwf::CIMException(fwf::CIM_ERR_INVALID_CLASS,
                                 "Failed to get plugin for association class");
@@ -37,7 +69,7 @@ std::vector<std::string> namedAssociation(fwf::FrameworkFacade& facade,
                   source.getClassName().c_str());
         return {};
     }
-    return {assocClass};
+    return {facade.getClassName(assocClass)};
 }
 
 // The association classes that serve this request.
@@ -52,9 +84,27 @@ std::vector<std::string> associationClasses(fwf::FrameworkFacade& facade,
     return names;
 }
 
-template <typename T>
-void append(std::vector<T>& all, std::vector<T>& more) {
-    all.insert(all.end(), more.begin(), more.end());
+// Runs `serve` for each association class of the request and gathers what it
+// finds. When the request spans several association classes, one that fails
+// is logged and passed over, so that the others still answer.
+template <typename T, typename Serve>
+std::vector<T> gather(const std::vector<std::string>& classes, Serve serve) {
+    std::vector<T> all;
+    for (const std::string& name : classes) {
+        std::vector<T> found;
+        try {
+            serve(name, found);
+        } catch (const fwf::CIMException& e) {
+            if (classes.size() == 1) {
+                throw;
+            }
+            TkzLogMsg(TKZ_LOG_ERROR, "%s :: %s :: %s", "association", name.c_str(),
+                      e.getErrMessage().c_str());
+            continue;
+        }
+        all.insert(all.end(), found.begin(), found.end());
+    }
+    return all;
 }
 
 }  // namespace
@@ -74,13 +124,14 @@ void CMPIAdapter::Associators(CMPIAssociationMI*, const CMPIContext* ctx,
         TkzLogMsg(TKZ_LOG_INFO, " Association class = %s, Result class = %s",
                   text(assocClass).c_str(), text(resultClass).c_str());
         fwf::FrameworkFacade& facade = requireFacade();
-        std::vector<CIMInstance> all;
-        for (std::string name : associationClasses(facade, source, assocClass, broker)) {
-            std::string wanted = text(resultClass), r = text(role), rr = text(resultRole);
-            std::vector<CIMInstance> found;
-            facade.associators(source, name, found, wanted, r, rr, properties);
-            append(all, found);
-        }
+        std::vector<CIMInstance> all = gather<CIMInstance>(
+            associationClasses(facade, source, assocClass, broker),
+            [&](std::string name, std::vector<CIMInstance>& found) {
+                std::string wanted, r = text(role), rr = text(resultRole);
+                if (resultClassFilter(facade, name, source, text(resultClass), broker, wanted)) {
+                    facade.associators(source, name, found, wanted, r, rr, properties);
+                }
+            });
         ReturnInstances(broker, result, properties, all, status);
     });
 }
@@ -98,13 +149,14 @@ void CMPIAdapter::AssociatorNames(CMPIAssociationMI*, const CMPIContext* ctx,
                   source.getClassName().c_str(), text(resultClass).c_str(),
                   text(assocClass).c_str());
         fwf::FrameworkFacade& facade = requireFacade();
-        std::vector<CIMObjectPath> all;
-        for (std::string name : associationClasses(facade, source, assocClass, broker)) {
-            std::string wanted = text(resultClass), r = text(role), rr = text(resultRole);
-            std::vector<CIMObjectPath> found;
-            facade.associatorsNames(source, name, found, wanted, r, rr);
-            append(all, found);
-        }
+        std::vector<CIMObjectPath> all = gather<CIMObjectPath>(
+            associationClasses(facade, source, assocClass, broker),
+            [&](std::string name, std::vector<CIMObjectPath>& found) {
+                std::string wanted, r = text(role), rr = text(resultRole);
+                if (resultClassFilter(facade, name, source, text(resultClass), broker, wanted)) {
+                    facade.associatorsNames(source, name, found, wanted, r, rr);
+                }
+            });
         ReturnObjectPaths(broker, result, all, status);
     });
 }
@@ -120,12 +172,11 @@ void CMPIAdapter::References(CMPIAssociationMI*, const CMPIContext* ctx, const C
         TkzLogMsg(TKZ_LOG_INFO, "CMPIAdapter::References: From:%s Tru:%s",
                   source.getClassName().c_str(), text(resultClass).c_str());
         fwf::FrameworkFacade& facade = requireFacade();
-        std::vector<CIMInstance> all;
-        for (const std::string& name : associationClasses(facade, source, resultClass, broker)) {
-            std::vector<CIMInstance> found;
-            facade.references(source, name, found, text(role));
-            append(all, found);
-        }
+        std::vector<CIMInstance> all = gather<CIMInstance>(
+            associationClasses(facade, source, resultClass, broker),
+            [&](const std::string& name, std::vector<CIMInstance>& found) {
+                facade.references(source, name, found, text(role));
+            });
         ReturnInstances(broker, result, properties, all, status);
     });
 }
@@ -141,12 +192,11 @@ void CMPIAdapter::ReferenceNames(CMPIAssociationMI*, const CMPIContext* ctx,
         TkzLogMsg(TKZ_LOG_INFO, "CMPIAdapter::ReferenceNames: From:%s Tru:%s",
                   source.getClassName().c_str(), text(resultClass).c_str());
         fwf::FrameworkFacade& facade = requireFacade();
-        std::vector<CIMObjectPath> all;
-        for (const std::string& name : associationClasses(facade, source, resultClass, broker)) {
-            std::vector<CIMObjectPath> found;
-            facade.referencesNames(source, name, text(role), found);
-            append(all, found);
-        }
+        std::vector<CIMObjectPath> all = gather<CIMObjectPath>(
+            associationClasses(facade, source, resultClass, broker),
+            [&](const std::string& name, std::vector<CIMObjectPath>& found) {
+                facade.referencesNames(source, name, text(role), found);
+            });
         ReturnObjectPaths(broker, result, all, status);
     });
 }

@@ -74,7 +74,7 @@ public:
     // The association classes served for the namespace of src whose plug-in
     // has src's class at one of its ends, restricted to subclasses of
     // assocClass when that is given (non-null, non-empty). Names are the
-    // registry's plug-in names.
+    // classes' proper spellings.
     static void GetAssociationClasses(const CIMObjectPath& src, const char* assocClass,
                                       const CMPIBroker* broker, std::vector<std::string>& names);
 };

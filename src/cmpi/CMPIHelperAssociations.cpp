@@ -43,7 +43,7 @@ void CMPIHelper::GetAssociationClasses(const CIMObjectPath& src, const char* ass
         }
         if (isRequestedKind(name, src.getNameSpace(), assocClass, broker) &&
             isRelatedAssociation(*facade, src, name, broker)) {
-            names.push_back(name);
+            names.push_back(facade->getClassName(name));
         }
     }
 }

@@ -117,6 +117,7 @@ void insertPoolDetails(const LogicalDriveContext& logicalDrive, fsaCIMInstanceWr
                        InstanceBatch& batch) {
     pool.addRows(kPool, logicalDrive);
     pool.addRows(kCapabilities, logicalDrive);
+    insertPoolChunks(logicalDrive, pool);
     insertVolumeDetails(logicalDrive, batch);
 }
 

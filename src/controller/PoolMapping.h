@@ -25,6 +25,9 @@ _eVEXObjectType poolTypeOf(const storlib::Adapter& adapter, const storlib::Logic
 void insertPoolDetails(const LogicalDriveContext& logicalDrive, fsaCIMInstanceWrapper& pool,
                        InstanceBatch& batch);
 void insertVolumeDetails(const LogicalDriveContext& logicalDrive, InstanceBatch& batch);
+// The logical drive's member chunks ("CE" arrays), its dedicated spares and
+// the space it consumes on drives that count ("SPSpaceConsumed").
+void insertPoolChunks(const LogicalDriveContext& logicalDrive, fsaCIMInstanceWrapper& pool);
 
 // One storage setting per logical drive into type 15.
 void updateAssociatedStorageSettings(const ControllerContext& controller, InstanceBatch& batch);

@@ -1,6 +1,7 @@
 #include "controller/CimNames.h"
 #include "controller/DeviceMapping.h"
 #include "controller/InstanceBatch.h"
+#include "controller/SesElementDetails.h"
 
 namespace vex::cim::fwf::fsamap {
 
@@ -52,6 +53,7 @@ void initSESData(const SESElementContext& element, InstanceBatch& batch) {
     if (element.element->as<EnclosureSlot>() != nullptr) {
         instance.addRows(kSlot, element);
     }
+    insertSESElementDetails(element, instance);
     batch.add(VEX_OBJ_SES_ELEMENT, instance);
 }
 

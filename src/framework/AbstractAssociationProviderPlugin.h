@@ -63,9 +63,9 @@ public:
     // case, the reference that points to the source; a non-empty result role
     // the other one. A non-empty `resultClass` that names one of the ends (see
     // getResultantClass) keeps only instances whose other reference points to
-    // a class containing it; one that names neither end filters nothing
-    // (superclass names such as "CIM_ComputerSystem" are the object manager's
-    // to resolve).
+    // a class containing it; one that names neither end leaves nothing
+    // (the adapter turns superclass names such as "CIM_ComputerSystem" into
+    // the end class they stand for before it asks).
     virtual std::vector<CIMInstance> associationHelper(CIMObjectPath& source,
                                                        const std::string& assocClass,
                                                        std::string& role,

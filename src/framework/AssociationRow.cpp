@@ -16,7 +16,11 @@ std::string keyText(const CIMInstance& instance, const std::string& propertyName
     if (property == nullptr) {
         return std::string();
     }
-    // "Name(18)=value": the value's text is what follows the first '='.
+    if (property->getType() == CIM_STRING || property->getType() == CIM_DATETIME) {
+        const CIMValue<std::string> value = property->getStringValue();
+        return value.isEmpty() ? std::string() : value.getValues()[0];
+    }
+    // "Name(24)=value": the value's text is what follows the first '='.
     const std::string described = describeProperty(*property);
     const std::size_t equals = described.find('=');
     return equals == std::string::npos ? std::string() : described.substr(equals + 1);

@@ -120,15 +120,18 @@ std::vector<CIMInstance> AbstractAssociationProviderPlugin::associationHelper(
     CIMObjectPath assocPath(source.getHostName(), source.getNameSpace(), assocClass, {});
     TkzLogMsg(TKZ_LOG_DEBUG, "%s :: Association Object Path formed : %s", "associationHelper",
               assocPath.toString().c_str());
-    std::vector<CIMInstance> all = candidateLinks(source, assocPath);
+    std::string resultEnd;
+    const bool filterClass = !resultClass.empty();
+    std::vector<CIMInstance> all;
+    if (!filterClass || getResultantClass(resultClass, resultEnd)) {
+        all = candidateLinks(source, assocPath);  // else the filter names neither end
+    }
     TkzLogMsg(TKZ_LOG_DEBUG, "%s :: Association Objects retrieved : %d", "associationHelper",
               static_cast<int>(all.size()));
     if (all.empty()) {
         TkzLogMsg(TKZ_LOG_DEBUG, "No instances for the association class : %s",
                   assocClass.c_str());
     }
-    std::string resultEnd;
-    const bool filterClass = !resultClass.empty() && getResultantClass(resultClass, resultEnd);
     std::vector<CIMInstance> out;
     for (CIMInstance& instance : all) {
         const Ends ends = endsOf(instance, source, role);

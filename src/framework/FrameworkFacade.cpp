@@ -61,6 +61,12 @@ AbstractProviderPlugin* FrameworkFacade::getPlugIn(const std::string& className)
     return manager->getPlugin(CommonFunctions::toLower(className));
 }
 
+std::string FrameworkFacade::getClassName(const std::string& className) {
+    PluginsManager* manager = PluginsManager::getInstance();
+    const std::string spelled = manager == nullptr ? std::string() : manager->getClassName(className);
+    return spelled.empty() ? className : spelled;
+}
+
 bool FrameworkFacade::getAllPluginNames(std::vector<std::string>& names, std::string nameSpace) {
     PluginsManager* manager = PluginsManager::getInstance();
     if (manager == nullptr) {

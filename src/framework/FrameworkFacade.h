@@ -36,6 +36,9 @@ public:
 
     // The plug-in of a CIM class (any case), or null.
     AbstractProviderPlugin* getPlugIn(const std::string& className);
+    // A registered class in its proper spelling ("VEX_MediaPresent" for
+    // "vex_mediapresent"); the name as given when it is not registered.
+    std::string getClassName(const std::string& className);
     // The registered class names to announce for one namespace (see
     // PluginsManager::getPluginNames). False when there is no registry.
     bool getAllPluginNames(std::vector<std::string>& names, std::string nameSpace);

@@ -1,6 +1,6 @@
 // The registry table: every CIM class the provider can serve, one row each, in
 // registration order. A row names the plug-in (the CIM class name in lower
-// case), its group (its base), the namespaces it is offered in, and the
+// case) and the class (its proper spelling), its group (its base), the namespaces it is offered in, and the
 // factory that makes its plug-in object. A row whose plug-in class is not
 // built yet has no factory; PluginsManager leaves it out, so a request for
 // that class is refused as an invalid class.
@@ -34,7 +34,8 @@ enum PluginNameSpaces : unsigned int {
 using PluginFactory = AbstractProviderPlugin* (*)();
 
 struct PluginRegistration {
-    const char* name;  // lower-case CIM class name
+    const char* name;       // lower-case CIM class name: the plug-in name
+    const char* className;  // the CIM class name in its proper spelling
     PluginGroup group;
     unsigned int nameSpaces;  // PluginNameSpaces bits
     PluginFactory factory;    // null while the plug-in class does not exist
@@ -42,7 +43,8 @@ struct PluginRegistration {
 
 inline constexpr std::size_t kAlwaysRegisteredPlugins = 10;
 
-// The whole table, in registration order.
+// The whole table, in registration order. It is composition, defined with the
+// providers: the framework knows no concrete class.
 const PluginRegistration* pluginRegistrations();
 std::size_t pluginRegistrationCount();
 

@@ -88,6 +88,11 @@ AbstractProviderPlugin* PluginsManager::getPlugin(std::string name) {
     return found->second.plugin.get();
 }
 
+std::string PluginsManager::getClassName(const std::string& name) const {
+    const auto found = m_registry.find(CommonFunctions::toLower(name));
+    return found == m_registry.end() ? std::string() : std::string(found->second.row->className);
+}
+
 std::vector<std::string> PluginsManager::getPluginNames(std::string nameSpace) {
     TkzLogMsg(TKZ_LOG_DEBUG, "Entering PluginsManager::getPluginNames()");
     const unsigned int wanted =

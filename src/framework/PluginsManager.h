@@ -30,6 +30,9 @@ public:
     // The plug-in registered under `name` (compared in lower case), or null.
     AbstractProviderPlugin* getPlugin(std::string name);
 
+    // The proper spelling of a registered class (any case), or empty.
+    std::string getClassName(const std::string& name) const;
+
     // The registered names to announce to the object manager for one
     // namespace, in name order: for "root/tkz/vex/smi_15" every class served
     // there; for any other namespace the classes served in the interop one.

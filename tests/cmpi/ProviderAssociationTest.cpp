@@ -109,5 +109,69 @@ TEST_F(ProviderAssociationTest, ObjectManagersProfileIsFoundOnceAndLinkedToOurs)
     EXPECT_EQ(lookups, 1);
 }
 
+// Clients name DMTF classes: the association class and the result class are
+// resolved through the object manager's class hierarchy, results carry the
+// served classes' proper spelling, and a result class naming no end of an
+// association gives nothing from it.
+class DmtfNamedAssociationTest : public ProviderAssociationTest {
+protected:
+    void SetUp() override {
+        ProviderAssociationTest::SetUp();
+        cmpihost::ClassHierarchy& classes = cimom().classes();
+        classes.add("VEX_HostComputerSystem", "CIM_ComputerSystem");
+        classes.add("CIM_ComputerSystem", "CIM_System");
+        classes.add("VEX_RegisteredProfile", "CIM_RegisteredProfile");
+        classes.add("VEX_RegisteredSubProfile", "CIM_RegisteredSubProfile");
+        classes.add("CIM_RegisteredSubProfile", "CIM_RegisteredProfile");
+        classes.add("VEX_ElementConformsToProfile", "CIM_ElementConformsToProfile");
+        classes.add("VEX_HostComputerSystemConformsToProfile", "CIM_ElementConformsToProfile");
+        classes.add("VEX_SubProfileRequiresProfile", "CIM_ReferencedProfile");
+    }
+
+    std::vector<std::string> classNames(const Response& r) {
+        std::vector<std::string> names;
+        for (const ObjectPath& path : r.paths) {
+            names.push_back(path.className);
+        }
+        return names;
+    }
+};
+
+TEST_F(DmtfNamedAssociationTest, DiscoveryReachesTheCentralSystemByDmtfNames) {
+    Response r = cimom().associatorNames(raidProfile(), "CIM_ElementConformsToProfile",
+                                         "CIM_ComputerSystem", {}, {});
+    ASSERT_TRUE(r.ok()) << r.status.toString();
+    ASSERT_FALSE(r.paths.empty());
+    for (const std::string& name : classNames(r)) {
+        EXPECT_EQ(name, "VEX_HostComputerSystem");
+    }
+    // The sub-profiles are reached by the referenced-profile association,
+    // and a filter naming a class at neither end of it leaves nothing.
+    Response subs = cimom().associatorNames(raidProfile(), "CIM_ReferencedProfile",
+                                            "CIM_RegisteredProfile", {}, {});
+    ASSERT_TRUE(subs.ok()) << subs.status.toString();
+    EXPECT_FALSE(subs.paths.empty());
+    Response none = cimom().associatorNames(raidProfile(), "CIM_ReferencedProfile",
+                                            "CIM_ComputerSystem", {}, {});
+    ASSERT_TRUE(none.ok()) << none.status.toString();
+    EXPECT_TRUE(none.paths.empty());
+}
+
+TEST_F(DmtfNamedAssociationTest, ReferencesCarryTheProperSpellingOfTheAssociation) {
+    Response r = cimom().referenceNames(raidProfile(), "CIM_ElementConformsToProfile", {});
+    ASSERT_TRUE(r.ok()) << r.status.toString();
+    ASSERT_FALSE(r.paths.empty());
+    for (const std::string& name : classNames(r)) {
+        EXPECT_TRUE(name == "VEX_ElementConformsToProfile" ||
+                    name == "VEX_HostComputerSystemConformsToProfile")
+            << name;
+    }
+    Response unnamed = cimom().referenceNames(raidProfile(), {}, {});
+    ASSERT_TRUE(unnamed.ok()) << unnamed.status.toString();
+    for (const std::string& name : classNames(unnamed)) {
+        EXPECT_EQ(name.rfind("VEX_", 0), 0u) << name;
+    }
+}
+
 }  // namespace
 }  // namespace vex::cmpitest

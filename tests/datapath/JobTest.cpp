@@ -53,5 +53,49 @@ TEST(JobTest, FirstJobEnumerationIsNotedOnce) {
     EXPECT_EQ(loggedCount("Got the first job progess query from agent"), 1);
 }
 
+// The running verify of the demo system is linked to the volume it checks and
+// to the controller that runs it, from either end; a completed job of the
+// same identity replaces the earlier record.
+TEST(JobTest, JobIsLinkedToItsVolumeAndController) {
+    const std::vector<cim::fwf::CIMInstance> jobs = enumerateThroughFacade("VEX_ConcreteJob");
+    ASSERT_EQ(jobs.size(), 1u);
+    CIMObjectPath job = jobs.front().getPath();
+    std::string none;
+    auto far = [&](CIMObjectPath from, std::string assoc) {
+        std::vector<CIMObjectPath> out;
+        facade().associatorsNames(from, assoc, out, none, none, none);
+        std::vector<std::string> names;
+        for (const CIMObjectPath& path : out) {
+            std::string id;
+            for (const cim::fwf::CIMProperty& key : path.getKeyBindings()) {
+                id = key.getName() == "DeviceID" ? key.getStringValue().getValues().at(0) : id;
+            }
+            names.push_back(path.getClassName() + ":" + id);
+        }
+        return names;
+    };
+    EXPECT_EQ(far(job, "VEX_AffectedJobElement"), std::vector<std::string>{"VEX_StorageVolume:0_2"});
+    EXPECT_EQ(far(job, "VEX_OwningJobElement"), std::vector<std::string>{"VEX_ControllerComputerSystem:"});
+    std::vector<cim::fwf::CIMInstance> volumes = enumerateThroughFacade("VEX_StorageVolume");
+    std::size_t linked = 0;
+    for (const cim::fwf::CIMInstance& volume : volumes) {
+        linked += far(volume.getPath(), "VEX_AffectedJobElement").size();
+    }
+    EXPECT_EQ(linked, 1u);
+
+    cim::fwf::AbstractProviderPlugin* done = facade().getPlugIn("VEX_CompletedJob");
+    ASSERT_NE(done, nullptr);
+    done->pushCompletedJobObject(lastSeenAt(40));
+    done->pushCompletedJobObject(lastSeenAt(99));
+    std::vector<CIMObjectPath> records;
+    CIMObjectPath all("", "root/tkz/vex/smi_15", "VEX_CompletedJob", {});
+    facade().enumerateInstanceNames(all, records);
+    EXPECT_EQ(records.size(), 1u);
+    std::vector<cim::fwf::CIMInstance> record;
+    facade().getCIMInstance(records.at(0), record);
+    ASSERT_EQ(record.size(), 1u);
+    EXPECT_EQ(cim::fwf::stringValueOf(record[0], "JobStatus"), "Completed");
+}
+
 }  // namespace
 }  // namespace vex::datapath

@@ -49,8 +49,8 @@ TEST_F(LifecycleIndicationTest, CreationCarriesTheClassPartOfTheCachedObject) {
 }
 
 // A deletion names the object without reading the cache; a finished job is
-// indicated although no completed-job class keeps its record yet, and job
-// events of kind 4 are not indicated.
+// indicated and kept as a completed-job record, and job events of kind 4 are
+// not indicated.
 TEST_F(LifecycleIndicationTest, DeletionNamesTheObject) {
     const auto sent = notify("VEX_DiskDrive", VEX_OBJ_PHYSICAL_DRIVE, VEX_EVENT_DELETED, driveKey("0_5_77"));
     ASSERT_EQ(sent.size(), 1u);
@@ -60,7 +60,12 @@ TEST_F(LifecycleIndicationTest, DeletionNamesTheObject) {
     const CIMProperty job = stringProperty("InstanceID", "0_1", true);
     EXPECT_TRUE(notify("VEX_ConcreteJob", VEX_OBJ_JOB, 4, job).empty());
     EXPECT_EQ(notify("VEX_ConcreteJob", VEX_OBJ_JOB, VEX_EVENT_DELETED, job).size(), 1u);
-    EXPECT_GT(loggedCount("Failed to get plugin for Completed Job Object"), 0);
+    bool kept = false;
+    for (const CIMInstance& done : enumerateThroughFacade("VEX_CompletedJob")) {
+        kept = kept || (stringValueOf(done, "InstanceID") == "0_1" &&
+                        stringValueOf(done, "JobStatus") == "Failed");
+    }
+    EXPECT_TRUE(kept);
 }
 
 }  // namespace

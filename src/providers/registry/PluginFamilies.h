@@ -36,11 +36,17 @@ constexpr PluginFactoryList factoryList(const PluginFactoryEntry (&entries)[N]) 
 extern const PluginFactoryList kHostProfileFactories;     // providers/device
 extern const PluginFactoryList kCachedDeviceFactories;    // providers/device
 extern const PluginFactoryList kCachedStorageFactories;   // providers/storage
+extern const PluginFactoryList kJobFactories;             // providers/storage
+extern const PluginFactoryList kStorageModelFactories;    // providers/storage
+extern const PluginFactoryList kDeviceModelFactories;     // providers/device
 
 inline const PluginFactoryList* const kFamilies[] = {
     &kHostProfileFactories,
     &kCachedDeviceFactories,
     &kCachedStorageFactories,
+    &kJobFactories,
+    &kStorageModelFactories,
+    &kDeviceModelFactories,
 };
 
 }  // namespace vex::cim::fwf

@@ -61,7 +61,9 @@ void VEX_ConcreteJob::EventNotify(_eVEXObjectType, _eVEXEventType eventType, std
         return;
     }
     if (eventType == VEX_EVENT_DELETED) {
-        pushCompletedJobObjects(changed);
+        std::vector<CIMProperty> last = keys;  // the job's identity, then its last state
+        last.insert(last.end(), changed.begin(), changed.end());
+        pushCompletedJobObjects(last);
     }
     sendLifecycleIndication(eventType, keys);
 }

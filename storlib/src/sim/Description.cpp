@@ -94,6 +94,8 @@ json parseText(const std::string& text, const std::string& origin) {
         return json::parse(text);
     } catch (const json::parse_error& e) {
         throw DescriptionError(origin + ": not valid JSON (byte " + std::to_string(e.byte) + "): " + e.what());
+    } catch (const json::exception& e) {  // e.g. a number beyond the range of a double
+        throw DescriptionError(origin + ": not valid JSON: " + e.what());
     }
 }
 
