@@ -134,14 +134,11 @@ def canon(path):
 
 def classes(run):
     """(class, [namespaces], is_association) as vexraid lists them."""
-    done = run._call([run.args.vexraid, "classes"])
+    done = run._call([run.args.vexraid, "--json", "classes"])
     out = []
-    for line in done.stdout.splitlines()[1:]:
-        words = line.split()
-        if not words:
-            continue
-        spaces = [run.interop if w == "root/PG_InterOp" else w for w in words if w.startswith("root/")]
-        out.append((words[0], spaces, "association" in words))
+    for entry in json.loads(done.stdout):
+        spaces = [run.interop if ns == "root/PG_InterOp" else ns for ns in entry["namespaces"]]
+        out.append((entry["class"], spaces, "association" in entry["types"]))
     return out
 
 
