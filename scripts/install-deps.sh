@@ -8,6 +8,7 @@ packages=(
   nlohmann-json3-dev libcli11-dev
   libpam0g-dev
   python3-prometheus-client
+  sblim-wbemcli python3
 )
 
 missing=()

@@ -16,7 +16,7 @@ Broker::Broker(const HostConfig& config)
     m_face.hdl = this;
     m_face.bft = brokerServices(config.flavor);
     m_face.eft = brokerFactories(config.flavor);
-    m_face.xft = brokerThreads();
+    m_face.xft = brokerThreads(config.flavor);
     m_face.mft = brokerMemory(config.flavor);
 }
 

@@ -182,13 +182,15 @@ CMPIData getProperty(const CMPIBroker* mb, const CMPIContext*, const CMPIObjectP
     return nullData(CMPI_null, CMPI_notFound);
 }
 
+// What the real brokers report: OpenPegasus 2.14.4 0x81FF (no query execution
+// in that build), sfcb 1.4.10 0x1BF.
 constexpr unsigned kPegasusCapabilities =
-    CMPI_MB_InstanceManipulation | CMPI_MB_AssociationTraversal | CMPI_MB_QueryExecution |
-    CMPI_MB_Indications | CMPI_MB_OSEncapsulationSupport | CMPI_MB_Supports_IndicationMI |
-    CMPI_MB_Supports_MemEnhancements | CMPI_MB_Supports_Extended_Error;
-constexpr unsigned kSfcbCapabilities = CMPI_MB_InstanceManipulation |
-                                       CMPI_MB_AssociationTraversal | CMPI_MB_Indications |
-                                       CMPI_MB_Supports_IndicationMI;
+    CMPI_MB_Supports_Extended_Error | CMPI_MB_InstanceManipulation | CMPI_MB_AssociationTraversal |
+    CMPI_MB_QueryNormalization | CMPI_MB_Indications | CMPI_MB_BasicQualifierSupport |
+    CMPI_MB_OSEncapsulationSupport;
+constexpr unsigned kSfcbCapabilities = CMPI_MB_Class_2 | CMPI_MB_AssociationTraversal |
+                                       CMPI_MB_QueryExecution | CMPI_MB_QueryNormalization |
+                                       CMPI_MB_Indications | CMPI_MB_OSEncapsulationSupport;
 
 #define VEX_HOST_BROKER_FT(caps, version, name)                                                 \
     {caps, version, name, prepareAttachThread, attachThread, detachThread, deliverIndication, \
@@ -197,8 +199,8 @@ constexpr unsigned kSfcbCapabilities = CMPI_MB_InstanceManipulation |
      invokeMethod, setProperty, getProperty}
 
 CMPIBrokerFT g_pegasus = VEX_HOST_BROKER_FT(kPegasusCapabilities, CMPIVersion200, "Pegasus");
-// sfcb 1.4 reports brokerVersion 0.
-CMPIBrokerFT g_sfcb = VEX_HOST_BROKER_FT(kSfcbCapabilities, 0, "Sfcb");
+// sfcb 1.4 reports brokerVersion 0 and calls its broker "RequestHandler".
+CMPIBrokerFT g_sfcb = VEX_HOST_BROKER_FT(kSfcbCapabilities, 0, "RequestHandler");
 
 #undef VEX_HOST_BROKER_FT
 

@@ -10,7 +10,7 @@ namespace cmpihost::detail {
 
 CMPIBrokerFT* brokerServices(Flavor flavor);
 CMPIBrokerEncFT* brokerFactories(Flavor flavor);
-CMPIBrokerExtFT* brokerThreads();
+CMPIBrokerExtFT* brokerThreads(Flavor flavor);
 // NULL for sfcb 1.4.
 CMPIBrokerMemFT* brokerMemory(Flavor flavor);
 

@@ -141,8 +141,18 @@ CMPIBrokerExtFT g_table = {CMPICurrentVersion, resolveFileName,  newThread,     
                            unlockMutex,        newCondition,     destroyCondition, condWait,
                            timedCondWait,      signalCondition};
 
+// OpenPegasus 2.14 leaves the condition-variable helpers NULL.
+CMPIBrokerExtFT g_pegasus = {CMPICurrentVersion, resolveFileName,  newThread,        joinThread,
+                             exitThread,         cancelThread,     threadSleep,      threadOnce,
+                             createThreadKey,    destroyThreadKey, getThreadSpecific, setThreadSpecific,
+                             newMutex,           destroyMutex,     lockMutex,        unlockMutex,
+                             newCondition,       destroyCondition, condWait,
+                             nullptr,            nullptr};
+
 }  // namespace
 
-CMPIBrokerExtFT* brokerThreads() { return &g_table; }
+CMPIBrokerExtFT* brokerThreads(Flavor flavor) {
+    return flavor == Flavor::Sfcb14 ? &g_table : &g_pegasus;
+}
 
 }  // namespace cmpihost::detail

@@ -82,13 +82,17 @@ CMPIStatus addEntry(const CMPIContext* ctx, const char* name, const CMPIValue* v
     return status(rc);
 }
 
-CMPIContextFT g_table = {CMPICurrentVersion, release,       clone,   getEntry,
-                         getEntryAt,         getEntryCount, addEntry};
+CMPIContextFT g_sfcb = {CMPICurrentVersion, release,       clone,   getEntry,
+                        getEntryAt,         getEntryCount, addEntry};
+// OpenPegasus 2.14 cannot clone a context.
+CMPIContextFT g_pegasus = {CMPICurrentVersion, release,       nullptr, getEntry,
+                           getEntryAt,         getEntryCount, addEntry};
 
 }  // namespace
 
 ContextObject::ContextObject(Broker& broker, std::vector<Entry> entries)
-    : Object(broker), m_face{static_cast<Object*>(this), &g_table}, m_entries(std::move(entries)) {}
+    : Object(broker), m_face{static_cast<Object*>(this), broker.flavor() == Flavor::Sfcb14 ? &g_sfcb : &g_pegasus},
+      m_entries(std::move(entries)) {}
 
 std::vector<ContextObject::Entry> ContextObject::entries() const {
     std::lock_guard<std::mutex> lock(m_mutex);
@@ -131,6 +135,6 @@ std::size_t ContextObject::count() const {
     return m_entries.size();
 }
 
-bool ContextObject::ownsTable(const void* ft) { return ft == &g_table; }
+bool ContextObject::ownsTable(const void* ft) { return ft == &g_sfcb || ft == &g_pegasus; }
 
 }  // namespace cmpihost::detail

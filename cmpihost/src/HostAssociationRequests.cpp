@@ -1,5 +1,6 @@
 // Requests to the association MI.
 #include "Dispatch.h"
+#include "PropertyFilter.h"
 
 namespace cmpihost {
 
@@ -21,13 +22,14 @@ Response Host::associators(const ObjectPath& path, const OptString& assocClass,
                            const OptString& resultClass, const OptString& role,
                            const OptString& resultRole, const PropertyList& properties,
                            const CallOptions& o) {
-    return toAssociationMI(
+    return detail::filteredAnswer(toAssociationMI(
         *m_broker, m_module.get(), o, path.nameSpace,
         [&](Request& r, CMPIAssociationMI* mi, const CMPIAssociationMIFT& ft) {
             return ft.associators(mi, r.context(), r.result(), r.reference(path), r.text(assocClass),
                                   r.text(resultClass), r.text(role), r.text(resultRole),
                                   r.properties(properties));
-        });
+        }),
+        properties, m_broker->flavor());
 }
 
 Response Host::associatorNames(const ObjectPath& path, const OptString& assocClass,
@@ -45,12 +47,13 @@ Response Host::associatorNames(const ObjectPath& path, const OptString& assocCla
 Response Host::references(const ObjectPath& path, const OptString& resultClass,
                           const OptString& role, const PropertyList& properties,
                           const CallOptions& o) {
-    return toAssociationMI(
+    return detail::filteredAnswer(toAssociationMI(
         *m_broker, m_module.get(), o, path.nameSpace,
         [&](Request& r, CMPIAssociationMI* mi, const CMPIAssociationMIFT& ft) {
             return ft.references(mi, r.context(), r.result(), r.reference(path),
                                  r.text(resultClass), r.text(role), r.properties(properties));
-        });
+        }),
+        properties, m_broker->flavor());
 }
 
 Response Host::referenceNames(const ObjectPath& path, const OptString& resultClass,

@@ -1,5 +1,6 @@
 // Requests to the instance MI.
 #include "Dispatch.h"
+#include "PropertyFilter.h"
 
 namespace cmpihost {
 
@@ -26,20 +27,22 @@ Response Host::enumerateInstanceNames(const ObjectPath& cp, const CallOptions& o
 
 Response Host::enumerateInstances(const ObjectPath& cp, const PropertyList& properties,
                                   const CallOptions& o) {
-    return toInstanceMI(*m_broker, m_module.get(), o, cp.nameSpace,
+    return detail::filteredAnswer(toInstanceMI(*m_broker, m_module.get(), o, cp.nameSpace,
                         [&](Request& r, CMPIInstanceMI* mi, const CMPIInstanceMIFT& ft) {
                             return ft.enumerateInstances(mi, r.context(), r.result(),
                                                          r.reference(cp), r.properties(properties));
-                        });
+                        }),
+                                  properties, m_broker->flavor());
 }
 
 Response Host::getInstance(const ObjectPath& path, const PropertyList& properties,
                            const CallOptions& o) {
-    return toInstanceMI(*m_broker, m_module.get(), o, path.nameSpace,
+    return detail::filteredAnswer(toInstanceMI(*m_broker, m_module.get(), o, path.nameSpace,
                         [&](Request& r, CMPIInstanceMI* mi, const CMPIInstanceMIFT& ft) {
                             return ft.getInstance(mi, r.context(), r.result(), r.reference(path),
                                                   r.properties(properties));
-                        });
+                        }),
+                                  properties, m_broker->flavor());
 }
 
 Response Host::createInstance(const ObjectPath& cp, const Instance& instance,

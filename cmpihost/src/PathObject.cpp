@@ -145,32 +145,26 @@ CMPIString* toString(const CMPIObjectPath* op, CMPIStatus* rc) {
     return o ? newString(o->broker(), o->path().toString()) : nullptr;
 }
 
-CMPIObjectPathFT g_table = {CMPICurrentVersion,
-                            release,
-                            clone,
-                            setNameSpace,
-                            getNameSpace,
-                            setHostname,
-                            getHostname,
-                            setClassName,
-                            getClassName,
-                            addKey,
-                            getKey,
-                            getKeyAt,
-                            getKeyCount,
-                            setNameSpaceFromObjectPath,
-                            setHostAndNameSpaceFromObjectPath,
-                            getClassQualifier,
-                            getPropertyQualifier,
-                            getMethodQualifier,
-                            getParameterQualifier,
-                            toString};
+#define VEX_HOST_PATH_FT(classQ, propertyQ, methodQ, parameterQ)                              \
+    {CMPICurrentVersion, release, clone, setNameSpace, getNameSpace, setHostname, getHostname, \
+     setClassName, getClassName, addKey, getKey, getKeyAt, getKeyCount,                      \
+     setNameSpaceFromObjectPath, setHostAndNameSpaceFromObjectPath, classQ, propertyQ,       \
+     methodQ, parameterQ, toString}
+
+CMPIObjectPathFT g_sfcb = VEX_HOST_PATH_FT(getClassQualifier, getPropertyQualifier,
+                                           getMethodQualifier, getParameterQualifier);
+// OpenPegasus 2.14 has no qualifier getters on object paths.
+CMPIObjectPathFT g_pegasus = VEX_HOST_PATH_FT(nullptr, nullptr, nullptr, nullptr);
+
+#undef VEX_HOST_PATH_FT
 
 }  // namespace
 
 PathObject::PathObject(Broker& broker, ObjectPath path)
-    : Object(broker), m_face{static_cast<Object*>(this), &g_table}, m_path(std::move(path)) {}
+    : Object(broker),
+      m_face{static_cast<Object*>(this), broker.flavor() == Flavor::Sfcb14 ? &g_sfcb : &g_pegasus},
+      m_path(std::move(path)) {}
 
-bool PathObject::ownsTable(const void* ft) { return ft == &g_table; }
+bool PathObject::ownsTable(const void* ft) { return ft == &g_sfcb || ft == &g_pegasus; }
 
 }  // namespace cmpihost::detail

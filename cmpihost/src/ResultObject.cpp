@@ -71,7 +71,8 @@ CMPIStatus returnError(const CMPIResult* rslt, const CMPIError* er) {
     return status(CMPI_RC_OK);
 }
 
-CMPIResultFT g_full = {CMPICurrentVersion, release,          clone,      returnData,
+// OpenPegasus 2.14: a result can be neither released nor cloned by the provider.
+CMPIResultFT g_full = {CMPICurrentVersion, nullptr,          nullptr,    returnData,
                        returnInstance,     returnObjectPath, returnDone, returnError};
 // sfcb 1.4 has no returnError.
 CMPIResultFT g_sfcb = {CMPICurrentVersion, release,          clone,      returnData,

@@ -19,7 +19,7 @@ std::string typeWords(const ProviderTypes& types) {
 std::string namespaceWords(unsigned bits) {
     std::string words;
     if (bits & kInImplementation) words += kImplementationNamespace;
-    if (bits & kInInterop) words += (words.empty() ? "" : " ") + std::string(kInteropNamespace);
+    if (bits & kInInterop) words += (words.empty() ? "" : " ") + std::string(kSfcbInteropNamespace);
     return words;
 }
 
@@ -27,7 +27,8 @@ std::string namespaceWords(unsigned bits) {
 
 std::string sfcbRegistration(const ProviderSchema& schema) {
     std::string out = std::string("# sfcb registration of ") + kProviderName +
-                      ": stage with sfcbstage into each namespace, then run sfcbrepos.\n";
+                      ": stage with sfcbstage into each namespace, then run sfcbrepos.\n"
+                      "# sfcb's interop namespace is root/interop.\n";
     for (const ClassDecl& cls : schema.classes()) {
         out += "[" + cls.name + "]\n";
         out += std::string("   provider: ") + kProviderName + "\n";

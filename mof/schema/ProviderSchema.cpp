@@ -37,7 +37,9 @@ std::string namespaceName(unsigned bit) {
 
 unsigned namespaceBit(const std::string& nameSpace) {
     if (sameName(nameSpace, kImplementationNamespace)) return kInImplementation;
-    if (sameName(nameSpace, kInteropNamespace)) return kInInterop;
+    if (sameName(nameSpace, kInteropNamespace) || sameName(nameSpace, kSfcbInteropNamespace)) {
+        return kInInterop;
+    }
     return 0;
 }
 

@@ -1,6 +1,7 @@
 // Where each class is registered, beyond the default, as registration.txt
 // says: one "keyword Class" per line.
-//   interop    offered only in the interop namespace (root/PG_InterOp)
+//   interop    offered only in the interop namespace (root/PG_InterOp in
+//              OpenPegasus, root/interop in sfcb)
 //   both       offered in the implementation and the interop namespace
 //   lifecycle  its changes are sent as CIM_InstCreation, CIM_InstModification
 //              and CIM_InstDeletion indications
@@ -15,7 +16,10 @@
 namespace vex::mof {
 
 inline constexpr const char* kImplementationNamespace = "root/tkz/vex/smi_15";
+// The interop namespace: OpenPegasus' name (and the provider's default);
+// sfcb's interop namespace is root/interop, which its registration names.
 inline constexpr const char* kInteropNamespace = "root/PG_InterOp";
+inline constexpr const char* kSfcbInteropNamespace = "root/interop";
 
 enum NamespaceBits : unsigned { kInImplementation = 1u, kInInterop = 2u, kInBoth = 3u };
 

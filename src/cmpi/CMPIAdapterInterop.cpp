@@ -1,7 +1,10 @@
 // The object manager's own registered profiles. Our profile associations
 // point from the provider's profiles to the object manager's SMI-S and Server
 // profiles, so their paths are looked up once, at initialisation, in the
-// interop namespace and kept in the two globals the plug-ins read.
+// interop namespace and kept in the two globals the plug-ins read. The class
+// looked for, PG_RegisteredProfile, is OpenPegasus' own, so it is looked for
+// in OpenPegasus' interop namespace whichever object manager loaded us (sfcb
+// has no such class: nothing is found there).
 #include <string>
 
 #include "cmpi/CMPIAdapter.h"

@@ -2,6 +2,7 @@
 #include <new>
 
 #include "cmpi/CMPIAdapter.h"
+#include "framework/CIMNamespaces.h"
 #include "framework/CommonFunctions.h"
 #include "framework/FrameworkFacade.h"
 
@@ -55,6 +56,10 @@ CMPIAdapter::~CMPIAdapter() {
 
 bool CMPIAdapter::initialize() {
     fwf::FrameworkFacade* facade = fwf::FrameworkFacade::getInstance();
+    const CMPIBroker* broker = getBroker();
+    fwf::selectInteropNameSpace(broker != nullptr && broker->bft != nullptr ? broker->bft->brokerName
+                                                                            : nullptr);
+    TkzLogMsg(TKZ_LOG_INFO, "Interop namespace: %s", fwf::interopNameSpace());
     getPegasusSMISProfRegObjPaths();
     if (facade == nullptr) {
         TkzLogMsg(TKZ_LOG_ERROR, "Failed to create FrameworkFacade instance");

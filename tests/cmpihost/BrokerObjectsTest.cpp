@@ -73,8 +73,8 @@ TEST_F(BrokerObjects, ObjectPathFieldsKeysAndText) {
         CMGetKeyAt(op, 2, nullptr, &st);
         EXPECT_EQ(st.rc, CMPI_RC_ERR_NO_SUCH_PROPERTY);
         EXPECT_EQ(CMAddKey(op, nullptr, "x", CMPI_chars).rc, CMPI_RC_ERR_INVALID_PARAMETER);
-        CMGetClassQualifier(op, "Key", &st);
-        EXPECT_EQ(st.rc, CMPI_RC_ERR_NOT_SUPPORTED);
+        // OpenPegasus (the host's default) has no qualifier getters on paths.
+        EXPECT_EQ(op->ft->getClassQualifier, nullptr);
     });
 }
 

@@ -27,13 +27,14 @@ std::string entryOf(const std::string& text, const std::string& start, const std
     return from == std::string::npos ? "" : text.substr(from, text.find(end, from) - from);
 }
 
+// sfcb's interop namespace is root/interop.
 TEST(RegistrationWriters, SfcbGetsOneEntryPerClassWithItsTypesAndNamespaces) {
     const std::string reg = sfcbRegistration(sample());
     EXPECT_EQ(entryOf(reg, "[VEX_Sys]", "#\n"),
               "[VEX_Sys]\n   provider: vexRAIDProvider15\n   location: vexRAIDProvider15\n"
               "   group: vexRAIDProvider15\n   unload: never\n   type: instance method indication\n"
-              "   namespace: root/tkz/vex/smi_15 root/PG_InterOp\n");
-    EXPECT_NE(entryOf(reg, "[VEX_Prof]", "#\n").find("   type: instance\n   namespace: root/PG_InterOp\n"), std::string::npos);
+              "   namespace: root/tkz/vex/smi_15 root/interop\n");
+    EXPECT_NE(entryOf(reg, "[VEX_Prof]", "#\n").find("   type: instance\n   namespace: root/interop\n"), std::string::npos);
     EXPECT_NE(entryOf(reg, "[VEX_Conforms]", "#\n").find("type: instance association\n"), std::string::npos);
     EXPECT_NE(entryOf(reg, "[VEX_Event]", "#\n").find("type: indication\n   namespace: root/tkz/vex/smi_15\n"), std::string::npos);
 }

@@ -1,6 +1,8 @@
 // ai, ain, ri and rin: the association operations. As an object manager
 // does, vexraid asks each registered association class that can link the
-// source object, one after the other, naming it in the request.
+// source object, one after the other, naming it in the request (OpenPegasus);
+// with --cimom sfcb the provider is asked once, with the association class as
+// the client gave it (none, or a DMTF superclass), as sfcb does.
 #include <memory>
 #include <optional>
 
@@ -28,7 +30,7 @@ struct Query {
 
 enum class Kind { Associators, AssociatorNames, References, ReferenceNames };
 
-cmpihost::Response ask(Session& session, Kind kind, const ObjectPath& source, const std::string& assoc,
+cmpihost::Response ask(Session& session, Kind kind, const ObjectPath& source, const OptString& assoc,
                        const Query& q) {
     const cmpihost::PropertyList props = q.properties.empty() ? cmpihost::PropertyList() : cmpihost::PropertyList(q.properties);
     cmpihost::Host& host = session.host();
@@ -59,9 +61,15 @@ void addQuery(CLI::App& app, Cli& cli, const char* name, Kind kind, const char* 
         const ObjectPath source = parseObjectPath(q->source, cli.options.nameSpace);
         const std::vector<std::string> classes =
             associationClasses(vex::mof::builtinSchema(), source, q->assocClass, q->role);
-        cli.action = [source, classes, q, kind](Session& session, Printer& printer) {
+        const bool once = cli.options.cimom == "sfcb";
+        cli.action = [source, classes, q, kind, once](Session& session, Printer& printer) {
             Gathered all;
-            for (const std::string& cls : classes) all.add(cls, ask(session, kind, source, cls, *q));
+            if (once && !classes.empty()) {
+                all.add(q->assocClass.value_or(classes.front()), ask(session, kind, source, q->assocClass, *q));
+            }
+            for (const std::string& cls : classes) {
+                if (!once) all.add(cls, ask(session, kind, source, cls, *q));
+            }
             if (kind == Kind::Associators || kind == Kind::References) {
                 printer.instances(all.instances);
             } else {

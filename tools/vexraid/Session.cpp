@@ -8,6 +8,7 @@
 #include <filesystem>
 
 #include "BuiltinSchema.h"
+#include "cmpihost/CimomProfiles.h"
 #include "Errors.h"
 
 namespace vexraid {
@@ -15,7 +16,6 @@ namespace vexraid {
 namespace {
 
 const char* const kProviderName = "vexRAIDProvider15";
-const char* const kCimomProfiles[] = {"SNIA+SMI-S+1.5.0", "SNIA+Server+1.5.0"};
 
 std::string absolute(const std::string& path) {
     std::error_code error;
@@ -34,14 +34,6 @@ void teachClasses(cmpihost::ClassHierarchy& classes, const vex::mof::ProviderSch
     }
     for (const vex::mof::ClassDecl& cls : schema.classes()) {
         if (!cls.superClass.empty()) classes.add(cls.name, cls.superClass);
-    }
-}
-
-void addCimomProfiles(cmpihost::InstanceRepository& repository) {
-    for (const char* id : kCimomProfiles) {
-        cmpihost::ObjectPath path(vex::mof::kInteropNamespace, "PG_RegisteredProfile");
-        path.addKey("InstanceID", cmpihost::Value::string(id));
-        repository.addPath(path);
     }
 }
 
@@ -91,7 +83,7 @@ Session::Session(const Options& options) : m_options(options) {
     config.principal = principalOf(options);
     m_host = std::make_unique<cmpihost::Host>(config);
     teachClasses(m_host->classes(), schema());
-    addCimomProfiles(m_host->repository());
+    cmpihost::addCimomProfiles(m_host->repository(), config.flavor);
     cmpihost::LoadOptions load;
     load.globalSymbols = options.cimom == "sfcb";  // sfcb opens providers with RTLD_GLOBAL
     const cmpihost::Status status = m_host->load(options.provider, kProviderName, load);

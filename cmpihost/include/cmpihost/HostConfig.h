@@ -1,9 +1,13 @@
 // HostConfig: which CIMOM the host imitates, and the defaults of its
 // requests.
 //
-// Pegasus214: brokerVersion 200, every CMPI 2.0 function present (extended
-//   errors, message files, setPropertyWithOrigin, the memory table).
-// Sfcb14: brokerVersion 0, and the CMPI 2.0 additions sfcb 1.4 leaves
+// Pegasus214: brokerName "Pegasus", brokerVersion 200, capabilities 0x81FF;
+//   extended errors, message files, setPropertyWithOrigin and the memory
+//   table present, but NULL: the context's clone, the result's release and
+//   clone, the object path's four qualifier getters, and the broker
+//   extension's timedCondWait and signalCondition.
+// Sfcb14: brokerName "RequestHandler", brokerVersion 0, capabilities
+//   0x1BF, and the CMPI 2.0 additions sfcb 1.4 leaves
 //   NULL: newCMPIError, openMessageFile, closeMessageFile, getMessage2, the
 //   result's returnError, the instance's setPropertyWithOrigin, and the whole
 //   CMPIBrokerMemFT (broker->mft is NULL).
@@ -27,8 +31,13 @@ struct HostConfig {
     // that keeps keys in text form does. Set to keep the type as added.
     bool keepKeyTypes = false;
 
+    // With basic authentication OpenPegasus' principal is the login name;
+    // without, it is the empty string.
     static HostConfig pegasus214(std::string user = "root") {
         return {Flavor::Pegasus214, Principal::user(std::move(user)), false};
+    }
+    static HostConfig pegasus214WithoutAuth() {
+        return {Flavor::Pegasus214, Principal::user(""), false};
     }
     // Without authentication sfcb's principal has NULL characters; with
     // basic authentication it is the login name.

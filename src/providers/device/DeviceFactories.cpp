@@ -4,13 +4,13 @@
 #include "providers/device/VEX_ApplicationSoftwareIdentity.h"
 #include "providers/device/VEX_ElementConformsToProfile.h"
 #include "providers/device/VEX_HostComputerSystem.h"
-#include "providers/device/VEX_HostComputerSystemConformsToProfile.h"
 #include "providers/device/VEX_HostComputerSystemPackage.h"
 #include "providers/device/VEX_HostPhysicalPackage.h"
 #include "providers/device/VEX_RegProfileElementSoftwareIdentity.h"
 #include "providers/device/VEX_RegisteredProfile.h"
 #include "providers/device/VEX_RegisteredSubProfile.h"
 #include "providers/device/VEX_SubProfileRequiresProfile.h"
+#include "providers/device/SystemConformsToProfile.h"
 #include "providers/registry/PluginFamilies.h"
 
 namespace vex::cim::fwf {
@@ -29,6 +29,7 @@ const PluginFactoryEntry kHostProfile[] = {
     {"vex_hostcomputersystempackage", &makePlugin<VEX_HostComputerSystemPackage>},
     {"vex_applicationsoftwareidentity", &makePlugin<VEX_ApplicationSoftwareIdentity>},
     {"vex_regprofileelementsoftwareidentity", &makePlugin<VEX_RegProfileElementSoftwareIdentity>},
+    {"vex_controllercomputersystemconformstoprofile", &makePlugin<VEX_ControllerComputerSystemConformsToProfile>},
 };
 
 const PluginFactoryEntry kCachedDevice[] = {

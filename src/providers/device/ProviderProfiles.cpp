@@ -1,5 +1,6 @@
 #include "providers/device/ProviderProfiles.h"
 
+#include "framework/CIMNamespaces.h"
 #include "framework/PropertyBuilders.h"
 
 namespace vex::cim::fwf {
@@ -43,7 +44,8 @@ std::string profileInstanceID(const RegisteredProfileRow& row) {
 CIMInstance makeProfileInstance(const RegisteredProfileRow& row, const CIMObjectPath& request,
                                 const std::string& className, unsigned short advertise) {
     CIMInstance instance;
-    instance.setPath(CIMObjectPath(request.getHostName(), request.getNameSpace(), className, {}));
+    instance.setPath(CIMObjectPath(request.getHostName(), interopNameSpaceFor(request.getNameSpace()),
+                                   className, {}));
     instance.addCimKeyBinding(stringProperty("InstanceID", profileInstanceID(row), true));
     instance.addProperty(uint16Property("RegisteredOrganization", row.organization));
     instance.addProperty(stringProperty("RegisteredName", row.name));
@@ -51,6 +53,33 @@ CIMInstance makeProfileInstance(const RegisteredProfileRow& row, const CIMObject
     instance.addProperty(uint16ArrayProperty("AdvertiseTypes", {advertise}));
     instance.addProperty(stringProperty("ElementName", row.name));
     return instance;
+}
+
+namespace {
+
+CIMObjectPath atHome(const CIMObjectPath& request) {
+    CIMObjectPath home = request;
+    home.setNameSpace(interopNameSpaceFor(request.getNameSpace()));
+    return home;
+}
+
+}  // namespace
+
+void InteropComputedPlugin::enumerateInstances(CIMObjectPath& classPath,
+                                               std::vector<CIMInstance>& out, bool flag) {
+    CIMObjectPath home = atHome(classPath);
+    ComputedInstanceProviderPlugin::enumerateInstances(home, out, flag);
+}
+
+void InteropComputedPlugin::enumerateInstanceNames(CIMObjectPath& classPath,
+                                                   std::vector<CIMObjectPath>& out) {
+    CIMObjectPath home = atHome(classPath);
+    ComputedInstanceProviderPlugin::enumerateInstanceNames(home, out);
+}
+
+void InteropComputedPlugin::getCIMInstance(CIMObjectPath& path, std::vector<CIMInstance>& out) {
+    CIMObjectPath home = atHome(path);
+    ComputedInstanceProviderPlugin::getCIMInstance(home, out);
 }
 
 }  // namespace vex::cim::fwf

@@ -8,6 +8,7 @@
 #include <string>
 
 #include "framework/CIMInstance.h"
+#include "framework/ComputedInstanceProviderPlugin.h"
 
 namespace vex::cim::fwf {
 
@@ -41,9 +42,23 @@ std::size_t providerSubProfileCount();
 std::string profileInstanceID(const RegisteredProfileRow& row);
 
 // A registered-profile instance of `className` for one row, addressed with
-// the host and namespace of `request`.
+// the host of `request`, in the interop namespace where the profiles live
+// (whatever namespace the request came through: an association of the
+// implementation namespace points to the profile where it is).
 CIMInstance makeProfileInstance(const RegisteredProfileRow& row, const CIMObjectPath& request,
                                 const std::string& className, unsigned short advertise);
+
+// The base of the profile classes: their instances live in the interop
+// namespace whatever namespace a request names (an association of the
+// implementation namespace fetches the profile it points to), so a request
+// is answered as if it named that namespace.
+class InteropComputedPlugin : public ComputedInstanceProviderPlugin {
+public:
+    void enumerateInstances(CIMObjectPath& classPath, std::vector<CIMInstance>& out,
+                            bool flag) override;
+    void enumerateInstanceNames(CIMObjectPath& classPath, std::vector<CIMObjectPath>& out) override;
+    void getCIMInstance(CIMObjectPath& path, std::vector<CIMInstance>& out) override;
+};
 
 }  // namespace vex::cim::fwf
 

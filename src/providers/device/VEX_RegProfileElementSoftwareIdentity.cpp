@@ -27,7 +27,8 @@ constexpr unsigned short kInstalled = 6;
 bool VEX_RegProfileElementSoftwareIdentity::MatchInstances(CIMInstance& /*antecedent*/,
                                                            CIMInstance& dependent,
                                                            std::vector<CIMProperty>& extra) {
-    dependent.setPath(CIMObjectPath(dependent.getHostName(), kInteropNameSpace,
+    dependent.setPath(CIMObjectPath(dependent.getHostName(),
+                                    interopNameSpaceFor(dependent.getNameSpace()),
                                     dependent.getClassName(), {}));
     extra.push_back(uint16ArrayProperty("ElementSoftwareStatus", {kCurrent, kInstalled}));
     return true;

@@ -5,11 +5,11 @@
 
 #include <vector>
 
-#include "framework/ComputedInstanceProviderPlugin.h"
+#include "providers/device/ProviderProfiles.h"
 
 namespace vex::cim::fwf {
 
-class VEX_RegisteredProfile : public ComputedInstanceProviderPlugin {
+class VEX_RegisteredProfile : public InteropComputedPlugin {
 public:
     static constexpr const char* kClassName = "VEX_RegisteredProfile";
 

@@ -6,11 +6,11 @@
 
 #include <vector>
 
-#include "framework/ComputedInstanceProviderPlugin.h"
+#include "providers/device/ProviderProfiles.h"
 
 namespace vex::cim::fwf {
 
-class VEX_RegisteredSubProfile : public ComputedInstanceProviderPlugin {
+class VEX_RegisteredSubProfile : public InteropComputedPlugin {
 public:
     static constexpr const char* kClassName = "VEX_RegisteredSubProfile";
 
