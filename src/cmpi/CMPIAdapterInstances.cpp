@@ -13,7 +13,7 @@ namespace vex::cim::adap::cmpi {
 
 using support::guarded;
 using support::logClassName;
-using support::requestPath;
+using support::servedPath;
 using support::requireFacade;
 
 void CMPIAdapter::EnumInstanceNames(CMPIInstanceMI*, const CMPIContext* ctx,
@@ -22,7 +22,7 @@ void CMPIAdapter::EnumInstanceNames(CMPIInstanceMI*, const CMPIContext* ctx,
     support::OperationTrace trace("EnumInstanceNames");
     setContext(ctx);
     guarded(broker, status, [&] {
-        CIMObjectPath path = requestPath(ref, false);
+        CIMObjectPath path = servedPath(ref, false);
         logClassName("EnumInstanceNames", path);
         std::vector<CIMObjectPath> paths;
         requireFacade().enumerateInstanceNames(path, paths);
@@ -36,7 +36,7 @@ void CMPIAdapter::EnumInstances(CMPIInstanceMI*, const CMPIContext* ctx, const C
     support::OperationTrace trace("EnumInstances");
     setContext(ctx);
     guarded(broker, status, [&] {
-        CIMObjectPath path = requestPath(ref, false);
+        CIMObjectPath path = servedPath(ref, false);
         logClassName("EnumInstances", path);
         std::vector<CIMInstance> instances;
         requireFacade().enumerateInstances(path, instances);
@@ -50,7 +50,7 @@ void CMPIAdapter::GetInstance(CMPIInstanceMI*, const CMPIContext* ctx, const CMP
     support::OperationTrace trace("GetInstance");
     setContext(ctx);
     guarded(broker, status, [&] {
-        CIMObjectPath path = requestPath(ref, true);
+        CIMObjectPath path = servedPath(ref, true);
         logClassName("GetInstance", path);
         std::vector<CIMInstance> instances;
         requireFacade().getCIMInstance(path, instances);
@@ -65,7 +65,7 @@ void CMPIAdapter::CreateInstance(CMPIInstanceMI*, const CMPIContext* ctx,
     support::OperationTrace trace("CreateInstance");
     setContext(ctx);
     guarded(broker, status, [&] {
-        CIMObjectPath path = requestPath(ref, false);
+        CIMObjectPath path = servedPath(ref, false);
         logClassName("CreateInstance", path);
         requireFacade();
         std::vector<CIMInstance> none;
@@ -83,7 +83,7 @@ void CMPIAdapter::ModifyInstance(CMPIInstanceMI*, const CMPIContext* ctx, const 
         return;
     }
     guarded(broker, status, [&] {
-        CIMObjectPath path = requestPath(ref, true);
+        CIMObjectPath path = servedPath(ref, true);
         logClassName("ModifyInstance", path);
         fwf::FrameworkFacade& facade = requireFacade();
         CIMObjectPath instancePath;
@@ -101,7 +101,7 @@ void CMPIAdapter::DeleteInstance(CMPIInstanceMI*, const CMPIContext* ctx, const 
     support::OperationTrace trace("DeleteInstance");
     setContext(ctx);
     guarded(broker, status, [&] {
-        CIMObjectPath path = requestPath(ref, true);
+        CIMObjectPath path = servedPath(ref, true);
         logClassName("DeleteInstance", path);
         requireFacade();
     });

@@ -1,5 +1,8 @@
 #include "cmpi/CMPIAdapterSupport.h"
 
+#include "framework/CIMNamespaces.h"
+#include "framework/CommonFunctions.h"
+
 #include "cmpi/CMPIHelper.h"
 #include "cmpi/CmpiCalls.h"
 #include "platform/Tkz.h"
@@ -19,6 +22,23 @@ fwf::CIMObjectPath requestPath(const CMPIObjectPath* ref, bool withKeys) {
         TkzLogMsg(TKZ_LOG_ERROR, "Failed to convert CMPI ObjectPath to CIM ObjectPath");
         throw fwf::CIMException(fwf::CIM_ERR_ADAPTER_FAILURE,
                                 "Failed to convert CMPI ObjectPath to CIM ObjectPath");
+    }
+    const std::string& nameSpace = path.getNameSpace();
+    if (!fwf::CommonFunctions::equalsIgnoreCase(nameSpace, fwf::kImplementationNameSpace) &&
+        !fwf::isInteropNameSpace(nameSpace)) {
+        TkzLogMsg(TKZ_LOG_ERROR, "%s :: namespace %s is not served", "requestPath",
+                  nameSpace.c_str());
+        throw fwf::CIMException(fwf::CIM_ERR_INVALID_NAMESPACE, " :: Invalid namespace");
+    }
+    return path;
+}
+
+fwf::CIMObjectPath servedPath(const CMPIObjectPath* ref, bool withKeys) {
+    fwf::CIMObjectPath path = requestPath(ref, withKeys);
+    if (!requireFacade().isServedIn(path.getClassName(), path.getNameSpace())) {
+        TkzLogMsg(TKZ_LOG_ERROR, "%s :: class %s is not served in %s", "servedPath",
+                  path.getClassName().c_str(), path.getNameSpace().c_str());
+        throw fwf::CIMException(fwf::CIM_ERR_INVALID_CLASS, " :: Invalid class");
     }
     return path;
 }

@@ -31,7 +31,14 @@ private:
 // The request path as a framework path; a path without class name is
 // refused with CIMException 24 "Failed to convert CMPI ObjectPath to CIM
 // ObjectPath".
+// A path in a namespace the provider does not serve (neither the
+// implementation namespace nor an interop one) is refused with
+// CIMException 3 " :: Invalid namespace".
 fwf::CIMObjectPath requestPath(const CMPIObjectPath* ref, bool withKeys);
+
+// requestPath of a class the request is for: a class that no plug-in serves
+// in the path's namespace is refused with CIMException 5 " :: Invalid class".
+fwf::CIMObjectPath servedPath(const CMPIObjectPath* ref, bool withKeys);
 
 // Logs "CMPIAdapter::<operation> ClassName:<class>" at level 5.
 void logClassName(const char* operation, const fwf::CIMObjectPath& path);

@@ -76,6 +76,11 @@ std::string FrameworkFacade::getClassName(const std::string& className) {
     return spelled.empty() ? className : spelled;
 }
 
+bool FrameworkFacade::isServedIn(const std::string& className, const std::string& nameSpace) {
+    PluginsManager* manager = PluginsManager::getInstance();
+    return manager != nullptr && manager->isServedIn(className, nameSpace);
+}
+
 bool FrameworkFacade::getAllPluginNames(std::vector<std::string>& names, std::string nameSpace) {
     PluginsManager* manager = PluginsManager::getInstance();
     if (manager == nullptr) {

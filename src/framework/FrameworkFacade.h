@@ -39,6 +39,8 @@ public:
     // A registered class in its proper spelling ("VEX_MediaPresent" for
     // "vex_mediapresent"); the name as given when it is not registered.
     std::string getClassName(const std::string& className);
+    // Whether the class is served in the namespace (PluginsManager::isServedIn).
+    bool isServedIn(const std::string& className, const std::string& nameSpace);
     // The registered class names to announce for one namespace (see
     // PluginsManager::getPluginNames). False when there is no registry.
     bool getAllPluginNames(std::vector<std::string>& names, std::string nameSpace);

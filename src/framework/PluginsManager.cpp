@@ -93,12 +93,29 @@ std::string PluginsManager::getClassName(const std::string& name) const {
     return found == m_registry.end() ? std::string() : std::string(found->second.row->className);
 }
 
+namespace {
+
+unsigned int nameSpaceBit(const std::string& nameSpace) {
+    return CommonFunctions::equalsIgnoreCase(nameSpace, kImplementationNameSpace)
+               ? kServedInImplementation
+               : kServedInInterop;
+}
+
+}  // namespace
+
+bool PluginsManager::isServedIn(const std::string& className, const std::string& nameSpace) const {
+    const auto found = m_registry.find(CommonFunctions::toLower(className));
+    if (found == m_registry.end()) {
+        return false;
+    }
+    // Associations link objects across the namespaces and answer in either.
+    const PluginRegistration& row = *found->second.row;
+    return row.group == PluginGroup::Association || (row.nameSpaces & nameSpaceBit(nameSpace)) != 0;
+}
+
 std::vector<std::string> PluginsManager::getPluginNames(std::string nameSpace) {
     TkzLogMsg(TKZ_LOG_DEBUG, "Entering PluginsManager::getPluginNames()");
-    const unsigned int wanted =
-        CommonFunctions::equalsIgnoreCase(nameSpace, kImplementationNameSpace)
-            ? kServedInImplementation
-            : kServedInInterop;
+    const unsigned int wanted = nameSpaceBit(nameSpace);
     std::vector<std::string> names;
     for (const auto& [name, entry] : m_registry) {
         if ((entry.row->nameSpaces & wanted) != 0) {

@@ -33,6 +33,11 @@ public:
     // The proper spelling of a registered class (any case), or empty.
     std::string getClassName(const std::string& name) const;
 
+    // Whether a plug-in serves the class (any case) in the namespace: the
+    // implementation namespace, or (any other name) the interop one. An
+    // association, whose ends may live in either, is served in both.
+    bool isServedIn(const std::string& className, const std::string& nameSpace) const;
+
     // The registered names to announce to the object manager for one
     // namespace, in name order: for "root/tkz/vex/smi_15" every class served
     // there; for any other namespace the classes served in the interop one.

@@ -36,6 +36,28 @@ TEST_F(ProviderInstanceTest, WithoutControllersOtherClassesAreInvalid) {
     EXPECT_TRUE(cimom().enumerateInstances({kImplNs, "VEX_HostComputerSystem"}).ok());
 }
 
+// Only the implementation namespace and the interop ones are served, each
+// with its own classes; anything else is an invalid namespace or class.
+TEST_F(ProviderInstanceTest, NamespacesAndClassesOutsideTheRegistrationAreRefused) {
+    for (const char* ns : {"root/cimv2", "root/tkz/vex", ""}) {
+        Response r = cimom().enumerateInstanceNames({ns, "VEX_HostComputerSystem"});
+        EXPECT_TRUE(hasStatus(r, CMPI_RC_ERR_INVALID_NAMESPACE, " :: Invalid namespace")) << ns;
+        EXPECT_EQ(cimom().getInstance({ns, "VEX_HostComputerSystem"}).status.rc, CMPI_RC_ERR_INVALID_NAMESPACE);
+    }
+    const struct {
+        const char* ns;
+        const char* cls;
+    } refused[] = {{kImplNs, "VEX_RegisteredProfile"}, {kInteropNs, "VEX_ApplicationSoftwareIdentity"},
+                   {kImplNs, "VEX_NoSuchClass"}};
+    for (const auto& c : refused) {
+        Response r = cimom().enumerateInstances({c.ns, c.cls});
+        EXPECT_TRUE(hasStatus(r, CMPI_RC_ERR_INVALID_CLASS, " :: Invalid class")) << c.ns << ":" << c.cls;
+    }
+    for (const char* ns : {kImplNs, kInteropNs, "root/interop"}) {
+        EXPECT_TRUE(cimom().enumerateInstanceNames({ns, "VEX_HostComputerSystem"}).ok()) << ns;
+    }
+}
+
 TEST_F(ProviderInstanceTest, PathWithoutClassNameIsRefused) {
     Response r = cimom().enumerateInstanceNames({kImplNs, ""});
     EXPECT_TRUE(hasStatus(r, CMPI_RC_ERR_FAILED, "Failed to convert CMPI ObjectPath to CIM ObjectPath"));

@@ -25,7 +25,8 @@ protected:
         withNumber(in, "dataSize", size);
         return in;
     }
-    static constexpr const char* kName = "routines-test.bin";
+    // Each test process has a file of its own: ctest runs tests side by side.
+    inline static const std::string kName = "routines-test-" + std::to_string(::getpid()) + ".bin";
 };
 
 }  // namespace
