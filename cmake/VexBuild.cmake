@@ -1,6 +1,8 @@
 # Shared build conventions: warnings, sanitizers, component libraries, tests.
 
-set(VEX_WARNINGS -Wall -Wextra -Werror)
+# -Wformat=2: every printf-style format is a literal the compiler checks, so
+# no text from a client can ever be taken as a format.
+set(VEX_WARNINGS -Wall -Wextra -Wformat=2 -Werror)
 
 if(VEX_SANITIZE STREQUAL "address")
   add_compile_options(-fsanitize=address,undefined -fno-omit-frame-pointer -fno-sanitize-recover=undefined)

@@ -42,8 +42,8 @@ unsigned revisionOf(const SoftwareContext& s) {
 }
 
 RawValue instanceId(const SoftwareContext& s) {
-    static const char* const kFormats[] = {"%d_Driver", "%d_Firmware", "%d_BIOS"};
-    return formatText(kFormats[s.kind], s.controller->index);
+    static const char* const kSuffixes[] = {"_Driver", "_Firmware", "_BIOS"};
+    return formatText("%d%s", s.controller->index, kSuffixes[s.kind]);
 }
 
 // CIM_SoftwareIdentity.Classifications: 2 Driver, 10 Firmware, 11 BIOS/FCode.

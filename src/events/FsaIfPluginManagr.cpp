@@ -16,9 +16,12 @@ CIMProperty keyProperty(const char* name, std::string value) {
     return CIMProperty(name, CIMValue<std::string>(std::move(value)), true, CIM_STRING, false);
 }
 
-std::string formatted(const char* format, int a, int b = 0, int c = 0) {
-    char text[64];
-    std::snprintf(text, sizeof text, format, a, b, c);
+// "a_b_c" of the numbers given.
+std::string joined(std::initializer_list<int> numbers) {
+    std::string text;
+    for (int n : numbers) {
+        text += (text.empty() ? "" : "_") + std::to_string(n);
+    }
     return text;
 }
 
@@ -88,19 +91,19 @@ void FsaIfPluginManagr::deliver(const char* operation, _eVEXObjectType type, _eV
 void FsaIfPluginManagr::deliverAdapterEventToPlugins(_eVEXEventType eventType, int adapterId,
                                                      std::vector<CIMProperty>& changed) {
     deliver("deliverAdapterEventToPlugins", VEX_OBJ_CONTROLLER, eventType,
-            {keyProperty("CSName", formatted("vexController_%d", adapterId))}, changed);
+            {keyProperty("CSName", "vexController_" + joined({adapterId}))}, changed);
 }
 
 void FsaIfPluginManagr::deliverContainerEventToPlugins(_eVEXEventType eventType, int adapterId, int volumeId,
                                                        std::vector<CIMProperty>& changed) {
     deliver("deliverContainerEventToPlugins", VEX_OBJ_CONCRETE_POOL, eventType,
-            {keyProperty("SPInstanceID", formatted("%d_%d", adapterId, volumeId))}, changed);
+            {keyProperty("SPInstanceID", joined({adapterId, volumeId}))}, changed);
 }
 
 void FsaIfPluginManagr::deliverPdEventToPlugins(_eVEXEventType eventType, int adapterId, int channelId,
                                                 int deviceId, std::vector<CIMProperty>& changed) {
     deliver("deliverPdEventToPlugins", VEX_OBJ_PHYSICAL_DRIVE, eventType,
-            {keyProperty("DDDeviceID", formatted("%d_%d_%d", adapterId, channelId, deviceId))}, changed);
+            {keyProperty("DDDeviceID", joined({adapterId, channelId, deviceId}))}, changed);
 }
 
 void FsaIfPluginManagr::deliverEnclEventToPlugins(_eVEXEventType eventType, const std::string& tag,
