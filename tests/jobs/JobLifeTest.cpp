@@ -6,7 +6,9 @@
 #include <storlib/Simulator.h>
 
 #include "InProcessFixture.h"
+#include "events/CompletedJobRemover.h"
 #include "events/FsaIfEventManager.h"
+#include "providers/storage/CompletedJobRecord.h"
 #include "framework/PropertyBuilders.h"
 
 namespace vex::datapath {
@@ -175,6 +177,33 @@ TEST_F(JobLifeTest, AVerifyStartedThroughTheProviderIsReprioritisedAndAborted) {
     // A job that has just ended takes no further change.
     EXPECT_EQ(requestStateChange(path, {uint16Property("RequestedState", 32769)}), 3u);
     EXPECT_GE(loggedCount("invokeMethod :: Method RequestStateChange failed on VEX_ConcreteJob."), 5);
+}
+
+// The remover's pass (its thread is never started) drops only the records of
+// ended jobs whose last change has aged.
+TEST_F(JobLifeTest, TheRemoverDropsAgedRecordsOnly) {
+    CIMDateTime now;
+    now.getCurrentDateTime();
+    auto record = [](const std::string& id, const std::string& changed) {
+        std::vector<CIMProperty> last{stringProperty("InstanceID", id, true), uint16Property("PercentComplete", 100)};
+        if (!changed.empty()) {
+            last.push_back(CIMProperty("LastTimeOfModification", CIMValue<std::string>(changed), false, CIM_DATETIME,
+                                       false));
+        }
+        return completedJobRecord(last);
+    };
+    AbstractProviderPlugin* done = facade().getPlugIn("VEX_CompletedJob");
+    ASSERT_NE(done, nullptr);
+    done->pushCompletedJobObject(record("0_90", "20200101000000.000000+530"));
+    done->pushCompletedJobObject(record("0_91", now.toString()));
+    done->pushCompletedJobObject(record("0_92", ""));
+    done->pushCompletedJobObject(record("0_93", "garbage"));
+    EXPECT_GE(removeExpiredCompletedJobs(), 1u);
+    std::set<std::string> kept;
+    for (const CIMInstance& r : enumerateThroughFacade("VEX_CompletedJob")) kept.insert(stringValueOf(r, "InstanceID"));
+    EXPECT_EQ(kept.count("0_90"), 0u);
+    EXPECT_EQ(kept.count("0_91") + kept.count("0_92") + kept.count("0_93"), 3u);
+    EXPECT_FALSE(jobHasEnded("Running"));
 }
 
 }  // namespace
