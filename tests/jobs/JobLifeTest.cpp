@@ -70,11 +70,45 @@ protected:
         return facade().invokeMethod(job, "RequestStateChange", in, out);
     }
 
+    static CIMObjectPath verifyPath() { return job("0_1")->getPath(); }
+
     static storlib::Addr taskOf(const std::string& id) {
         return storlib::Addr(0, storlib::Addr::ANY, storlib::Addr::ANY, storlib::Addr::ANY,
                              std::stoull(id.substr(id.find('_') + 1)));
     }
 };
+
+// The running verify is reached from the controller that owns it and from
+// the volume it checks; from the job, both come back.
+TEST_F(JobLifeTest, AJobIsReachedFromItsControllerAndItsVolume) {
+    std::string none;
+    auto far = [&](CIMObjectPath from, std::string assoc, const char* key) {
+        std::vector<CIMObjectPath> out;
+        facade().associatorsNames(from, assoc, out, none, none, none);
+        std::set<std::string> ids;
+        for (const CIMObjectPath& path : out) {
+            for (const CIMProperty& k : path.getKeyBindings()) {
+                if (k.getName() == key) ids.insert(path.getClassName() + ":" + k.getStringValue().getValues().at(0));
+            }
+        }
+        return ids;
+    };
+    const CIMObjectPath controller("", "root/tkz/vex/smi_15", "VEX_ControllerComputerSystem",
+                                   {stringProperty("CreationClassName", "VEX_ControllerComputerSystem", true),
+                                    stringProperty("Name", "vexController_0", true)});
+    const std::set<std::string> job{"VEX_ConcreteJob:0_1"};
+    EXPECT_EQ(far(controller, "VEX_OwningJobElement", "InstanceID"), job);
+    std::optional<CIMInstance> volume;
+    for (const CIMInstance& v : enumerateThroughFacade("VEX_StorageVolume")) {
+        if (stringValueOf(v, "DeviceID") == "0_2") volume = v;
+    }
+    ASSERT_TRUE(volume);
+    EXPECT_EQ(far(volume->getPath(), "VEX_AffectedJobElement", "InstanceID"), job);
+    const CIMObjectPath jobPath = verifyPath();
+    EXPECT_EQ(far(jobPath, "VEX_OwningJobElement", "Name"),
+              std::set<std::string>{"VEX_ControllerComputerSystem:vexController_0"});
+    EXPECT_EQ(far(jobPath, "VEX_AffectedJobElement", "DeviceID"), std::set<std::string>{"VEX_StorageVolume:0_2"});
+}
 
 // The demo system's running verify, finished by the controller: the job shows
 // it completed while the controller lists the task, then leaves with a
