@@ -70,6 +70,24 @@ protected:
         return facade().invokeMethod(job, "RequestStateChange", in, out);
     }
 
+    // Starts a verify of a logical drive through the controller class; answers its job's InstanceID.
+    static std::string startVerify(const std::string& logicalDrive) {
+        std::set<std::string> before;
+        for (const CIMInstance& j : enumerateThroughFacade("VEX_ConcreteJob")) before.insert(stringValueOf(j, "InstanceID"));
+        const CIMObjectPath controller("", "root/tkz/vex/smi_15", "VEX_ControllerComputerSystem",
+                                       {stringProperty("CreationClassName", "VEX_ControllerComputerSystem", true),
+                                        stringProperty("Name", "vexController_0", true)});
+        CIMMethodParam in, out;
+        in.addArgument(stringProperty("SPInstanceID", logicalDrive));
+        in.addArgument(booleanProperty("bFix", false));
+        EXPECT_EQ(facade().invokeMethod(controller, "VerifyVD", in, out), 0u);
+        refreshCycle();
+        for (const CIMInstance& j : enumerateThroughFacade("VEX_ConcreteJob")) {
+            if (before.count(stringValueOf(j, "InstanceID")) == 0) return stringValueOf(j, "InstanceID");
+        }
+        return {};
+    }
+
     static CIMObjectPath verifyPath() { return job("0_1")->getPath(); }
 
     static storlib::Addr taskOf(const std::string& id) {
@@ -161,25 +179,8 @@ TEST_F(JobLifeTest, AFinishedVerifyEndsAsACompletedRecord) {
 // A verify started through the controller class becomes a job that can be
 // set to low priority and aborted; refused requests change nothing.
 TEST_F(JobLifeTest, AVerifyStartedThroughTheProviderIsReprioritisedAndAborted) {
-    const std::set<std::string> before = [] {
-        std::set<std::string> ids;
-        for (const CIMInstance& j : enumerateThroughFacade("VEX_ConcreteJob")) ids.insert(stringValueOf(j, "InstanceID"));
-        return ids;
-    }();
-    const CIMObjectPath controller("", "root/tkz/vex/smi_15", "VEX_ControllerComputerSystem",
-                                   {stringProperty("CreationClassName", "VEX_ControllerComputerSystem", true),
-                                    stringProperty("Name", "vexController_0", true)});
-    CIMMethodParam in, out;
-    in.addArgument(stringProperty("SPInstanceID", "0_0"));
-    in.addArgument(booleanProperty("bFix", false));
-    ASSERT_EQ(facade().invokeMethod(controller, "VerifyVD", in, out), 0u);
-    refreshCycle();
-    std::optional<CIMInstance> started;
-    for (const CIMInstance& j : enumerateThroughFacade("VEX_ConcreteJob")) {
-        if (before.count(stringValueOf(j, "InstanceID")) == 0) started = j;
-    }
-    ASSERT_TRUE(started);
-    const std::string id = stringValueOf(*started, "InstanceID");
+    const std::string id = startVerify("0_0");
+    const std::optional<CIMInstance> started = job(id);
     const CIMObjectPath path = started->getPath();
     EXPECT_EQ(number(*started, "JobState"), 4u);
 
@@ -211,6 +212,33 @@ TEST_F(JobLifeTest, AVerifyStartedThroughTheProviderIsReprioritisedAndAborted) {
     // A job that has just ended takes no further change.
     EXPECT_EQ(requestStateChange(path, {uint16Property("RequestedState", 32769)}), 3u);
     EXPECT_GE(loggedCount("invokeMethod :: Method RequestStateChange failed on VEX_ConcreteJob."), 5);
+}
+
+// A verify stopped by a lost member ends in Exception with Error, and its
+// record says "Failed" at the percentage it had reached.
+TEST_F(JobLifeTest, AVerifyThatLosesAMemberEndsAsFailed) {
+    FsaIfEventManager::getInstance()->compareLrcObjects();
+    const std::string id = startVerify("0_1");
+    ASSERT_FALSE(id.empty());
+    ASSERT_TRUE(simulator().advanceTime(5));
+    refreshAndCompare();
+    ASSERT_TRUE(simulator().failDrive(storlib::Addr::device(0, 0, 2)));
+    refreshAndCompare();
+    const CIMInstance failed = *job(id);
+    EXPECT_EQ(number(failed, "JobState"), 10u);
+    EXPECT_EQ(status(failed), (std::vector<unsigned short>{6, 17}));
+    const unsigned reached = number(failed, "PercentComplete");
+    EXPECT_LT(reached, 95u);
+    ASSERT_TRUE(simulator().advanceTime(301));
+    refreshAndCompare();
+    bool recorded = false;
+    for (const CIMInstance& r : enumerateThroughFacade("VEX_CompletedJob")) {
+        if (stringValueOf(r, "InstanceID") != id) continue;
+        recorded = true;
+        EXPECT_EQ(stringValueOf(r, "JobStatus"), "Failed");
+        EXPECT_EQ(number(r, "PercentComplete"), reached);
+    }
+    EXPECT_TRUE(recorded);
 }
 
 // The remover's pass (its thread is never started) drops only the records of
