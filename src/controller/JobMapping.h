@@ -1,4 +1,4 @@
-// Jobs: every running task of a controller becomes one instance of cache
+// Jobs: every task a controller lists (running or ended) becomes one instance of cache
 // type 12, served as VEX_ConcreteJob (InstanceID is its key).
 #ifndef VEX_CONTROLLER_JOBMAPPING_H
 #define VEX_CONTROLLER_JOBMAPPING_H
@@ -13,7 +13,7 @@ class InstanceBatch;
 
 namespace vex::cim::fwf::fsamap {
 
-// The running tasks of one controller; now is the snapshot's controller clock.
+// The tasks of one controller; now is the snapshot's controller clock.
 void updateLrcInformation(const ControllerContext& controller, std::int64_t now, InstanceBatch& batch);
 void addJobDetails(const JobContext& job, InstanceBatch& batch);
 

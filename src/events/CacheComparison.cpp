@@ -108,6 +108,9 @@ void deliverSESElement(_eVEXEventType e, const CIMInstance& i, std::vector<CIMPr
 
 void deliverJob(_eVEXEventType e, const CIMInstance& i, std::vector<CIMProperty>& changed) {
     std::vector<CIMProperty> keys = i.getKeyPropertyList();
+    if (e == VEX_EVENT_DELETED) {
+        changed = i.getPropertyList();  // the job's last state, kept as its completed-job record
+    }
     FsaIfPluginManagr::getInstance()->deliverJobProgressEventToPlugins(e, keys, changed);
 }
 

@@ -1,6 +1,10 @@
 // The event manager: singleton, one-slot queue, callback and its threads.
 #include "events/FsaIfEventManager.h"
 
+#include <exception>
+
+#include "events/CompletedJobRemover.h"
+
 #include "monitor/VEXRaidEventMonitor.h"
 
 namespace vex::cim::fwf {
@@ -155,7 +159,22 @@ bool FsaIfEventManager::terminateJobRemoverThread() {
     return true;
 }
 
-void* FsaIfEventManager::fsaCompletedJobRemoverThread(void*) { return nullptr; }
+// Every 20 seconds until the threads are told to end: drops the completed-job
+// records that have aged (see CompletedJobRemover.h). Nothing starts it.
+void* FsaIfEventManager::fsaCompletedJobRemoverThread(void*) {
+    while (!flagTermThread.load()) {
+        TkzSleep(20);
+        if (flagTermThread.load()) {
+            break;
+        }
+        try {
+            removeExpiredCompletedJobs();
+        } catch (const std::exception& e) {
+            TkzLogMsg(TKZ_LOG_ERROR, "fsaCompletedJobRemoverThread :: %s", e.what());
+        }
+    }
+    return nullptr;
+}
 
 // ---- callback and queue -------------------------------------------------------------
 

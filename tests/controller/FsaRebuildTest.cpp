@@ -93,6 +93,7 @@ TEST_F(FsaRebuildTest, APartialRefreshRereadsOnlyTheJobs) {
     ASSERT_TRUE(library().setCopyBack(0, true).ok());
     ASSERT_TRUE(library().setLogicalDriveName(storlib::Addr::logicalDrive(0, 1), "Renamed").ok());
     ASSERT_TRUE(simulator().finishAllTasks().ok());
+    ASSERT_TRUE(simulator().advanceTime(301).ok());  // the controller drops its ended tasks
 
     ASSERT_EQ(refresh(true), 0u);
     EXPECT_EQ(readCode(VEX_OBJ_JOB), VEX_CM_DEVTYPE_NOT_EXIST);

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <chrono>
 #include <cstdint>
+#include <optional>
 #include <thread>
 
 #include "Interrupt.h"
@@ -26,12 +27,21 @@ std::string text(const Instance& job, const char* property) {
     return v != nullptr && !v->isNull() && v->type() == CMPI_string ? v->asString() : std::string();
 }
 
-unsigned percentOf(const Instance& job) {
-    const cmpihost::Value* v = job.property("PercentComplete");
+unsigned numberOf(const Instance& job, const char* property) {
+    const cmpihost::Value* v = job.property(property);
     if (v == nullptr || v->isNull() || v->isArray()) return 0;
     if ((v->type() & CMPI_SINT) == CMPI_SINT) return static_cast<unsigned>(std::max<std::int64_t>(0, v->asSigned()));
     if ((v->type() & CMPI_SINT) == CMPI_UINT) return static_cast<unsigned>(v->asUnsigned());
     return 0;
+}
+
+unsigned percentOf(const Instance& job) { return numberOf(job, "PercentComplete"); }
+
+// JobState 7 Completed, 8 Terminated, 9 Killed, 10 Exception; a job without
+// a JobState counts as running while it is listed.
+bool hasEnded(const Instance& job) {
+    const unsigned state = numberOf(job, "JobState");
+    return state >= 7 && state <= 10;
 }
 
 std::string labelOf(const Instance& job) {
@@ -43,23 +53,25 @@ std::string jobId(const ObjectPath& job) {
     return id != nullptr && id->type() == CMPI_string ? id->asString() : pathText(job);
 }
 
-// How an ended job finished, as its completed-job record says.
-std::string outcomeOf(Session& session, const ObjectPath& job) {
+// How an ended job finished: as the job itself shows while it is listed,
+// else as its completed-job record says.
+JobOutcome outcomeOf(Session& session, const ObjectPath& job, const std::optional<Instance>& last) {
+    if (last && hasEnded(*last)) return {jobId(job), text(*last, "JobStatus"), percentOf(*last)};
     const auto r = session.host().enumerateInstances(ObjectPath(job.nameSpace, kCompletedJobClass));
     for (const Instance& done : r.instances) {
-        if (text(done, "InstanceID") == jobId(job)) {
-            return text(done, "JobStatus") + ", " + std::to_string(percentOf(done)) + "%";
-        }
+        if (text(done, "InstanceID") == jobId(job)) return {jobId(job), text(done, "JobStatus"), percentOf(done)};
     }
-    return "ended";
+    return {jobId(job), "ended", last ? percentOf(*last) : 0};
 }
 
-// One poll of one job: false once it has left the job list.
-bool pollJob(Session& session, const ObjectPath& job, ProgressBar& bar) {
+// One poll of one job: false once it has ended or left the job list; last
+// keeps what was read.
+bool pollJob(Session& session, const ObjectPath& job, ProgressBar& bar, std::optional<Instance>& last) {
     const auto r = session.host().getInstance(job);
     if (!r.ok() || r.instances.empty()) return false;
-    bar.show(percentOf(r.instances.front()), labelOf(r.instances.front()));
-    return true;
+    last = r.instances.front();
+    bar.show(percentOf(*last), labelOf(*last));
+    return !hasEnded(*last);
 }
 
 bool expired(Clock::time_point start, double seconds) {
@@ -69,8 +81,18 @@ bool expired(Clock::time_point start, double seconds) {
 }  // namespace
 
 std::vector<ObjectPath> runningJobs(Session& session) {
-    const auto r = session.host().enumerateInstanceNames(ObjectPath(vex::mof::kImplementationNamespace, kJobClass));
-    return r.ok() ? r.paths : std::vector<ObjectPath>{};
+    const auto r = session.host().enumerateInstances(ObjectPath(vex::mof::kImplementationNamespace, kJobClass));
+    std::vector<ObjectPath> running;
+    if (!r.ok()) return running;
+    for (const Instance& job : r.instances) {
+        if (!hasEnded(job)) running.push_back(job.path);
+    }
+    return running;
+}
+
+cmpihost::Response changeJobState(Session& session, const ObjectPath& job, unsigned short requestedState) {
+    return session.host().invokeMethod(job, "RequestStateChange",
+                                       {{"RequestedState", cmpihost::Value::uint16(requestedState)}});
 }
 
 std::set<std::string> pathTexts(const std::vector<ObjectPath>& paths) {
@@ -93,17 +115,20 @@ std::vector<ObjectPath> newJobs(Session& session, const std::set<std::string>& k
 }
 
 int followJobs(Session& session, const std::vector<ObjectPath>& jobs, const FollowOptions& options,
-               std::ostream& out) {
+               std::ostream& out, std::vector<JobOutcome>* outcomes) {
     catchInterrupt();
     const Clock::time_point start = Clock::now();
     for (const ObjectPath& job : jobs) {
         ProgressBar bar(out, options.terminal);
-        while (pollJob(session, job, bar)) {
+        std::optional<Instance> last;
+        while (pollJob(session, job, bar, last)) {
             if (expired(start, options.timeoutSeconds) || interrupted()) return 1;
             std::this_thread::sleep_for(std::chrono::duration<double>(options.intervalSeconds));
         }
         bar.finish();
-        out << "job " << jobId(job) << ": " << outcomeOf(session, job) << "\n" << std::flush;
+        const JobOutcome outcome = outcomeOf(session, job, last);
+        out << "job " << outcome.id << ": " << outcome.status << ", " << outcome.percent << "%\n" << std::flush;
+        if (outcomes != nullptr) outcomes->push_back(outcome);
     }
     return 0;
 }
