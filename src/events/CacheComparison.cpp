@@ -13,6 +13,7 @@
 #include "controller/VexCacheManager.h"
 #include "events/FsaIfEventManager.h"
 #include "events/FsaIfPluginManagr.h"
+#include "framework/PropertyBuilders.h"
 #include "framework/PropertyText.h"
 
 namespace vex::cim::fwf {
@@ -20,15 +21,6 @@ namespace vex::cim::fwf {
 namespace {
 
 using Deliver = void (*)(_eVEXEventType, const CIMInstance&, std::vector<CIMProperty>&);
-
-std::string text(const CIMInstance& instance, const char* name) {
-    const CIMProperty* property = instance.getPropertyByName(name);
-    if (property == nullptr) {
-        return {};
-    }
-    const auto values = property->getStringValue().getValues();
-    return values.empty() ? std::string() : values.front();
-}
 
 // The numbers of an identity such as "vexController_3" or "0_1_4".
 std::vector<int> numbers(const std::string& identity) {
@@ -84,25 +76,25 @@ struct CompareKind {
 };
 
 void deliverAdapter(_eVEXEventType e, const CIMInstance& i, std::vector<CIMProperty>& changed) {
-    FsaIfPluginManagr::getInstance()->deliverAdapterEventToPlugins(e, numbers(text(i, "CSName"))[0], changed);
+    FsaIfPluginManagr::getInstance()->deliverAdapterEventToPlugins(e, numbers(stringValueOf(i, "CSName"))[0], changed);
 }
 
 void deliverVdisk(_eVEXEventType e, const CIMInstance& i, std::vector<CIMProperty>& changed) {
-    const std::vector<int> n = numbers(text(i, "SPInstanceID"));
+    const std::vector<int> n = numbers(stringValueOf(i, "SPInstanceID"));
     FsaIfPluginManagr::getInstance()->deliverContainerEventToPlugins(e, n[0], n[1], changed);
 }
 
 void deliverPdisk(_eVEXEventType e, const CIMInstance& i, std::vector<CIMProperty>& changed) {
-    const std::vector<int> n = numbers(text(i, "DDDeviceID"));
+    const std::vector<int> n = numbers(stringValueOf(i, "DDDeviceID"));
     FsaIfPluginManagr::getInstance()->deliverPdEventToPlugins(e, n[0], n[1], n[2], changed);
 }
 
 void deliverEnclosure(_eVEXEventType e, const CIMInstance& i, std::vector<CIMProperty>& changed) {
-    FsaIfPluginManagr::getInstance()->deliverEnclEventToPlugins(e, text(i, "Tag"), changed);
+    FsaIfPluginManagr::getInstance()->deliverEnclEventToPlugins(e, stringValueOf(i, "Tag"), changed);
 }
 
 void deliverSESElement(_eVEXEventType e, const CIMInstance& i, std::vector<CIMProperty>& changed) {
-    FsaIfPluginManagr::getInstance()->deliverSESElementEventToPlugins(e, text(i, "SystemName"), text(i, "DeviceID"),
+    FsaIfPluginManagr::getInstance()->deliverSESElementEventToPlugins(e, stringValueOf(i, "SystemName"), stringValueOf(i, "DeviceID"),
                                                                      changed);
 }
 
@@ -123,7 +115,7 @@ const CompareKind kJobs{VEX_OBJ_JOB, nullptr, true, &deliverJob};
 
 std::string identityOf(const CompareKind& kind, const CIMInstance& instance) {
     if (kind.identity != nullptr) {
-        return text(instance, kind.identity);
+        return stringValueOf(instance, kind.identity);
     }
     std::string id;
     for (const CIMProperty& key : instance.getKeyPropertyList()) {

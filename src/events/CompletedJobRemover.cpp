@@ -5,21 +5,13 @@
 
 #include "framework/CIMNamespaces.h"
 #include "framework/PluginsManager.h"
+#include "framework/PropertyBuilders.h"
 
 namespace vex::cim::fwf {
 
 namespace {
 
 constexpr long long kMicroseconds = 1000000;
-
-std::string text(const CIMInstance& instance, const char* name) {
-    const CIMProperty* property = instance.getPropertyByName(name);
-    if (property == nullptr) {
-        return {};
-    }
-    const auto values = property->getStringValue().getValues();
-    return values.empty() ? std::string() : values.front();
-}
 
 // "yyyymmddhhmmss.mmmmmm" followed by the offset.
 std::optional<CIMDateTime> momentOf(const std::string& datetime) {
@@ -77,9 +69,9 @@ std::vector<std::string> expiredCompletedJobs(const std::vector<CIMInstance>& re
                                               const std::set<std::string>& listedJobs, const CIMDateTime& now) {
     std::vector<std::string> expired;
     for (const CIMInstance& record : records) {
-        const std::string id = text(record, "InstanceID");
-        const std::optional<CIMDateTime> changed = momentOf(text(record, "LastTimeOfModification"));
-        if (id.empty() || listedJobs.count(id) != 0 || !jobHasEnded(text(record, "JobStatus")) || !changed ||
+        const std::string id = stringValueOf(record, "InstanceID");
+        const std::optional<CIMDateTime> changed = momentOf(stringValueOf(record, "LastTimeOfModification"));
+        if (id.empty() || listedJobs.count(id) != 0 || !jobHasEnded(stringValueOf(record, "JobStatus")) || !changed ||
             changed->getDateTimeStruct().year > now.getDateTimeStruct().year) {
             continue;
         }
