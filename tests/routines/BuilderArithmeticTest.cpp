@@ -1,4 +1,4 @@
-// The volume specification builder's level rules and arithmetic.
+// The logical drive spec builder's level rules and arithmetic.
 #include "RoutineTestSupport.h"
 #include "controller/routines/RaidLevelMath.h"
 #include "controller/routines/StorLibModify.h"

@@ -1,5 +1,5 @@
 // "Entering <Class>::<member>()" and "Exiting <Class>::<member>()" trace
-// lines of the volume specification builders.
+// lines of the logical drive spec builders.
 #ifndef VEX_CONTROLLER_ROUTINES_BUILDERTRACE_H
 #define VEX_CONTROLLER_ROUTINES_BUILDERTRACE_H
 

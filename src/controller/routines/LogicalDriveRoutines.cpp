@@ -1,4 +1,4 @@
-// The logical drive routines that need no volume specification: initialise,
+// The logical drive routines that need no logical drive spec: initialise,
 // verify, force online, delete, fast-tier background check.
 #include "controller/routines/OperationWrappers.h"
 #include "controller/routines/RoutineRunner.h"

@@ -1,4 +1,4 @@
-// RAID level arithmetic shared by the volume specification builders: level
+// RAID level arithmetic shared by the logical drive spec builders: level
 // names, member minimums and the RAID 6 geometry.
 #ifndef VEX_CONTROLLER_ROUTINES_RAIDLEVELMATH_H
 #define VEX_CONTROLLER_ROUTINES_RAIDLEVELMATH_H

@@ -44,7 +44,7 @@ class StorLibCreate {
 public:
     static StorLibCreate* getInstance();
 
-    // Builds the specification against a controller of one snapshot; 0, 4 or 17.
+    // Builds the logical drive spec against a controller of one snapshot; 0, 4 or 17.
     unsigned int buildLogicalDriveSpec(const storlib::Adapter& adapter, const CreateRequest& request,
                                        storlib::LogicalDriveSpec& spec);
     // Builds and hands it to the controller.
