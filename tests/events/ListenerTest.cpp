@@ -7,6 +7,7 @@
 #include <ctime>
 #include <vector>
 
+#include "ThreadCount.h"
 #include "controller/VexFSAInterface.h"
 #include "events/FsaIfEventManager.h"
 #include "framework/FrameworkFacade.h"
@@ -122,16 +123,7 @@ TEST(EventIndication, AnUnconvertibleTimeGivesTheCurrentTime) {
 namespace vex::eventstest {
 namespace {
 
-int threadCount() {
-    int count = 0;
-    if (DIR* dir = opendir("/proc/self/task")) {
-        while (dirent* entry = readdir(dir)) {
-            count += entry->d_name[0] != '.' ? 1 : 0;
-        }
-        closedir(dir);
-    }
-    return count;
-}
+using testsupport::threadCount;
 
 // Started and stopped as the provider's start and terminate do it; the
 // process thread, once terminated, is not started again in this load.
