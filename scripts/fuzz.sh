@@ -5,7 +5,7 @@
 #
 #   scripts/fuzz.sh [--tree DIR] [--seconds N] [--jobs N] [FUZZER...]
 #
-# FUZZER: objectpath targetid sysdesc cmpidata (default: all). --seconds
+# FUZZER: objectpath targetid sysdesc cmpidata catalogue (default: all). --seconds
 # defaults to $FUZZ_SECONDS or 300. New inputs are kept in
 # <tree>/fuzz-work/<fuzzer>/corpus, crashes there as crash-*: a crash
 # becomes a fix and its input a file in fuzz/<fuzzer>/corpus.
@@ -27,7 +27,7 @@ while [ $# -gt 0 ]; do
     *) fuzzers+=("$1"); shift ;;
   esac
 done
-[ ${#fuzzers[@]} -gt 0 ] || fuzzers=(objectpath targetid sysdesc cmpidata)
+[ ${#fuzzers[@]} -gt 0 ] || fuzzers=(objectpath targetid sysdesc cmpidata catalogue)
 
 if ! command -v clang++-14 >/dev/null || ! ls /usr/lib/llvm-14/lib/clang/*/lib/linux/libclang_rt.fuzzer-x86_64.a >/dev/null 2>&1; then
   echo "fuzz.sh: clang-14 with libFuzzer is not installed (scripts/install-fuzz-deps.sh)" >&2
