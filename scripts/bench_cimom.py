@@ -133,9 +133,9 @@ def values(inst):
     for prop in inst:
         name = prop.get("NAME")
         if prop.tag == "PROPERTY.REFERENCE":
-            keys = sorted((k.get("NAME").lower(), (k.findtext("KEYVALUE") or "")) for k in prop.iter("KEYBINDING"))
-            if keys:
-                out[name.lower()] = tuple(keys)
+            bindings = keys(prop)
+            if bindings:
+                out[name.lower()] = bindings
         elif prop.tag == "PROPERTY.ARRAY":
             arr = prop.find("VALUE.ARRAY")
             if arr is not None:
@@ -147,8 +147,20 @@ def values(inst):
     return out
 
 
+def keys(name):
+    return tuple(sorted((k.get("NAME").lower(), k.findtext("KEYVALUE") or "") for k in name.iter("KEYBINDING")))
+
+
 def canonical(data):
-    return sorted(sorted(values(i).items()) for i in instances(data))
+    """The instances of an answer, each with the keys of its path (when the
+    answer carries paths) and its property values, in a stable order."""
+    out = []
+    for named in ET.fromstring(data).iter():
+        if named.tag in ("VALUE.NAMEDINSTANCE", "VALUE.OBJECTWITHPATH"):
+            name, inst = next(named.iter("INSTANCENAME"), None), named.find("INSTANCE")
+            if inst is not None:
+                out.append((keys(name) if name is not None else (), sorted(values(inst).items())))
+    return sorted(out)
 
 
 def twin_instance(inst, cls, refs):

@@ -12,14 +12,15 @@ using fwf::CIMException;
 void CMPIAdapter::ReturnInstances(const CMPIBroker* broker, const CMPIResult* result,
                                   const char** properties, std::vector<CIMInstance>& instances,
                                   CMPIStatus*) {
+    InstanceFactory factory(broker);
     for (const CIMInstance& instance : instances) {
-        CMPIInstance* ci = CMPIHelper::FrameworkInstanceToCMPIInstance(instance, broker, properties);
-        if (ci == nullptr) {
+        InstanceHandle ci = CMPIHelper::FrameworkInstanceToCMPIInstance(instance, broker, properties, factory);
+        if (!ci) {
             TkzLogMsg(TKZ_LOG_ERROR, "Failed to convert CIM Instance to CMPI Instance");
             throw CIMException(fwf::CIM_ERR_ADAPTER_FAILURE,
                                "Failed to convert CIM Instance to CMPI Instance");
         }
-        calls::returnInstance(result, ci);
+        calls::returnInstance(result, ci.get());
     }
     calls::returnDone(result);
 }

@@ -12,11 +12,13 @@
 #include "framework/CIMException.h"
 #include "framework/CIMObjectPath.h"
 #include "framework/FrameworkFacade.h"
+#include "platform/TkzLogScope.h"
 
 namespace vex::cim::adap::cmpi::support {
 
 // Traces "Entering CMPIAdapter::<operation>" now and "Exiting ..." when it
-// goes out of scope.
+// goes out of scope. The whole operation is one answer for the log switch
+// (platform/TkzLogScope.h): with logging off, its lines cost one look.
 class OperationTrace {
 public:
     explicit OperationTrace(const char* operation);
@@ -25,6 +27,7 @@ public:
     OperationTrace& operator=(const OperationTrace&) = delete;
 
 private:
+    platform::LogAnswerScope m_logScope;
     std::string m_operation;
 };
 

@@ -19,6 +19,7 @@
 #include <string>
 #include <vector>
 
+#include "cmpi/InstanceFactory.h"
 #include "framework/CIMInstance.h"
 #include "framework/CIMMethodParam.h"
 #include "framework/CIMObjectPath.h"
@@ -56,6 +57,12 @@ public:
     static CMPIInstance* FrameworkInstanceToCMPIInstance(const CIMInstance& inst,
                                                          const CMPIBroker* broker,
                                                          const char* const* properties);
+    // The same, made by the answer's factory (a clone of an empty instance
+    // of the class where the broker allows): the handle owns it.
+    static InstanceHandle FrameworkInstanceToCMPIInstance(const CIMInstance& inst,
+                                                          const CMPIBroker* broker,
+                                                          const char* const* properties,
+                                                          InstanceFactory& factory);
 
     // Method input: each argument added to params with addArgument.
     static void CMPIArgsToFrameWorkMethodParam(const CMPIArgs* in, CIMMethodParam& params);

@@ -2,6 +2,7 @@
 // request's property list here: not every object manager filters what a
 // provider returns.
 #include <string>
+#include <vector>
 
 #include "cmpi/CMPIHelper.h"
 #include "cmpi/CMPIValueIn.h"
@@ -43,6 +44,37 @@ void writeProperty(const fwf::CIMProperty& property, CMPIInstance* ci, const CMP
         return ci->ft->setProperty != nullptr &&
                calls::ok(ci->ft->setProperty(ci, name, value, type));
     });
+}
+
+// True when the instance holds this string key with this value already: a
+// broker that sets the key properties from the instance's path has done so,
+// and writing the same text again would cost it a string replacement.
+bool keyAlreadyHeld(const fwf::CIMProperty& property, const CMPIInstance* ci) {
+    if (!property.isKey() || property.getType() != fwf::CIM_STRING || ci->ft->getProperty == nullptr) {
+        return false;
+    }
+    CMPIStatus rc = calls::status(CMPI_RC_OK);
+    CMPIData held = ci->ft->getProperty(ci, property.getName().c_str(), &rc);
+    if (!calls::ok(rc) || (held.state & (CMPI_nullValue | CMPI_notFound)) != 0) {
+        return false;
+    }
+    const char* text = held.type == CMPI_string  ? calls::chars(held.value.string)
+                       : held.type == CMPI_chars ? held.value.chars
+                                                 : nullptr;
+    if (text == nullptr) {
+        return false;
+    }
+    const std::vector<std::string> values = property.getStringValue().getValues();
+    return values.size() == 1 && values.front() == text;
+}
+
+void writeProperties(const fwf::CIMInstance& inst, CMPIInstance* ci, const CMPIBroker* broker,
+                     const char* const* properties) {
+    for (const fwf::CIMProperty& property : inst.getPropertyList()) {
+        if (isSelected(property.getName(), properties) && !keyAlreadyHeld(property, ci)) {
+            writeProperty(property, ci, broker);
+        }
+    }
 }
 
 }  // namespace
@@ -94,11 +126,23 @@ CMPIInstance* CMPIHelper::FrameworkInstanceToCMPIInstance(const CIMInstance& ins
     if (ci == nullptr || ci->ft == nullptr) {
         return nullptr;
     }
-    for (const fwf::CIMProperty& property : inst.getPropertyList()) {
-        if (isSelected(property.getName(), properties)) {
-            writeProperty(property, ci, broker);
-        }
+    writeProperties(inst, ci, broker, properties);
+    return ci;
+}
+
+InstanceHandle CMPIHelper::FrameworkInstanceToCMPIInstance(const CIMInstance& inst,
+                                                           const CMPIBroker* broker,
+                                                           const char* const* properties,
+                                                           InstanceFactory& factory) {
+    CMPIObjectPath* op = FrameworkObjectPathToCMPIObjectPath(inst.getPath(), broker);
+    if (op == nullptr) {
+        return {};
     }
+    InstanceHandle ci = factory.make(op, inst.getPath().getNameSpace(), inst.getPath().getClassName());
+    if (!ci || ci.get()->ft == nullptr) {
+        return {};
+    }
+    writeProperties(inst, ci.get(), broker, properties);
     return ci;
 }
 

@@ -4,6 +4,7 @@
 
 #include "platform/Tkz.h"
 #include "platform/TkzLogLine.h"
+#include "platform/TkzLogScope.h"
 #include "platform/TkzLogState.h"
 
 using namespace vex::platform;
@@ -14,11 +15,15 @@ constexpr std::size_t kMessageSize = 512;
 }  // namespace
 
 extern "C" int TkzLogMsg(int level, const char *format, ...) {
+    if (logKnownOffInScope()) {
+        return 0;
+    }
     LogLock lock;
     if (!lock.held()) {
         return 1;
     }
     if (!logAcceptsLines()) {
+        noteLogOff();
         return 0;
     }
     if (format == nullptr) {
@@ -35,11 +40,15 @@ extern "C" int TkzLogMsg(int level, const char *format, ...) {
 }
 
 extern "C" int TkzTrace(const char *text) {
+    if (logKnownOffInScope()) {
+        return 0;
+    }
     LogLock lock;
     if (!lock.held()) {
         return 1;
     }
     if (!logAcceptsLines()) {
+        noteLogOff();
         return 0;
     }
     if (text == nullptr) {
