@@ -94,6 +94,13 @@ struct Worker {
 
 long long nowTicks() { return Clock::now().time_since_epoch().count(); }
 
+// The worker of the calling request thread: each finished request restarts
+// its watchdog clock.
+thread_local Worker* t_worker = nullptr;
+void heartbeat() {
+    if (t_worker != nullptr) t_worker->busySince = nowTicks();
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -117,6 +124,7 @@ int main(int argc, char** argv) {
     options.user = "root";
     auto session = std::make_unique<vexraid::Session>(options);
     vex::stress::Workload workload(*session);
+    workload.setHeartbeat(heartbeat);
     vex::stress::Latencies latencies;
 
     std::atomic<bool> stop{false}, torn{false};
@@ -126,6 +134,7 @@ int main(int argc, char** argv) {
     for (unsigned t = 0; t < settings.threads; ++t) {
         threads.emplace_back([&, t] {
             std::mt19937 random(t + 1);
+            t_worker = &workers[t];
             for (unsigned n = t; !stop; ++n) {
                 const unsigned kind = n % vex::stress::Workload::kKinds;
                 workers[t].kind = kind;

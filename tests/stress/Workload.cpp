@@ -66,6 +66,9 @@ void Workload::run(unsigned kind, std::mt19937& random) {
 }
 
 void Workload::count(const cmpihost::Response& response, const std::string& what) {
+    if (m_heartbeat != nullptr) {
+        m_heartbeat();
+    }
     if (response.ok()) {
         return;
     }

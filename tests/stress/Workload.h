@@ -39,6 +39,10 @@ public:
     // Runs one request of that kind; Inconsistency on a torn answer.
     void run(unsigned kind, std::mt19937& random);
 
+    // Called on the request's thread after each single request (a kind may
+    // make many): the watchdog times single requests, not whole kinds.
+    void setHeartbeat(void (*beat)()) { m_heartbeat = beat; }
+
     std::size_t failedRequests() const { return m_failed.load(); }
     // The first few distinct error answers, for the report.
     std::vector<std::string> errorSamples() const;
@@ -53,6 +57,7 @@ private:
     void count(const cmpihost::Response& response, const std::string& what);
 
     vexraid::Session& m_session;
+    void (*m_heartbeat)() = nullptr;
     std::size_t m_drives = 0;
     std::size_t m_volumes = 0;
     std::vector<cmpihost::ObjectPath> m_paths;    // to get
