@@ -51,6 +51,11 @@ public:
     // A new CMPI path, or null when the broker cannot make one.
     static CMPIObjectPath* FrameworkObjectPathToCMPIObjectPath(const CIMObjectPath& path,
                                                                const CMPIBroker* broker);
+    // The same from the parts of a path.
+    static CMPIObjectPath* newCMPIObjectPath(const std::string& host, const std::string& nameSpace,
+                                             const std::string& className,
+                                             const std::vector<fwf::CIMProperty>& keys,
+                                             const CMPIBroker* broker);
     // A new CMPI instance holding the properties named in `properties` (all
     // when it is null; names compared ignoring case), or null when the broker
     // cannot make the instance or its path.

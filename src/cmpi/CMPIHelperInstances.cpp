@@ -46,35 +46,70 @@ void writeProperty(const fwf::CIMProperty& property, CMPIInstance* ci, const CMP
     });
 }
 
-// True when the instance holds this string key with this value already: a
-// broker that sets the key properties from the instance's path has done so,
-// and writing the same text again would cost it a string replacement.
-bool keyAlreadyHeld(const fwf::CIMProperty& property, const CMPIInstance* ci) {
-    if (!property.isKey() || property.getType() != fwf::CIM_STRING || ci->ft->getProperty == nullptr) {
+// A string key of the instance's path with the same value as the property
+// (the path's keys are written by the path itself).
+bool isStringPathKey(const fwf::CIMProperty& property, const fwf::CIMInstance& inst) {
+    if (!property.isKey() || property.getType() != fwf::CIM_STRING || property.elementCount<std::string>() != 1) {
         return false;
+    }
+    for (const fwf::CIMProperty& key : inst.keyProperties()) {
+        if (key.getName() == property.getName()) {
+            return key.elementCount<std::string>() == 1 &&
+                   key.elementAt<std::string>(0) == property.elementAt<std::string>(0);
+        }
+    }
+    return false;
+}
+
+enum class Held { Same, Absent, Other };
+
+// What the instance holds already for a string key.
+Held heldKey(const fwf::CIMProperty& property, const CMPIInstance* ci) {
+    if (ci->ft->getProperty == nullptr) {
+        return Held::Other;
     }
     CMPIStatus rc = calls::status(CMPI_RC_OK);
     CMPIData held = ci->ft->getProperty(ci, property.getName().c_str(), &rc);
     if (!calls::ok(rc) || (held.state & (CMPI_nullValue | CMPI_notFound)) != 0) {
-        return false;
+        return Held::Absent;
     }
     const char* text = held.type == CMPI_string  ? calls::chars(held.value.string)
                        : held.type == CMPI_chars ? held.value.chars
                                                  : nullptr;
-    if (text == nullptr) {
+    return text != nullptr && property.elementAt<std::string>(0) == text ? Held::Same : Held::Other;
+}
+
+// True when the key need not be written: the broker set it from the path.
+// Whether it does is learned from the first string key and kept in
+// pathKeys; writing the same text again would cost the broker a string
+// replacement.
+bool keySetByPath(const fwf::CIMProperty& property, const fwf::CIMInstance& inst,
+                  const CMPIInstance* ci, PathKeys& pathKeys) {
+    if (pathKeys == PathKeys::Apart || !isStringPathKey(property, inst)) {
         return false;
     }
-    const std::vector<std::string> values = property.getStringValue().getValues();
-    return values.size() == 1 && values.front() == text;
+    if (pathKeys == PathKeys::Unknown) {
+        const Held held = heldKey(property, ci);
+        if (held == Held::Other) {
+            return false;
+        }
+        pathKeys = held == Held::Same ? PathKeys::SetByBroker : PathKeys::Apart;
+    }
+    return pathKeys == PathKeys::SetByBroker;
 }
 
 void writeProperties(const fwf::CIMInstance& inst, CMPIInstance* ci, const CMPIBroker* broker,
-                     const char* const* properties) {
-    for (const fwf::CIMProperty& property : inst.getPropertyList()) {
-        if (isSelected(property.getName(), properties) && !keyAlreadyHeld(property, ci)) {
+                     const char* const* properties, PathKeys& pathKeys) {
+    for (const fwf::CIMProperty& property : inst.properties()) {
+        if (isSelected(property.getName(), properties) && !keySetByPath(property, inst, ci, pathKeys)) {
             writeProperty(property, ci, broker);
         }
     }
+}
+
+CMPIObjectPath* pathOf(const fwf::CIMInstance& inst, const CMPIBroker* broker) {
+    return CMPIHelper::newCMPIObjectPath(inst.getHostName(), inst.getNameSpace(), inst.getClassName(),
+                                         inst.keyProperties(), broker);
 }
 
 }  // namespace
@@ -118,7 +153,7 @@ void CMPIHelper::setProps(const CMPIInstance* ci, CIMInstance& inst) {
 CMPIInstance* CMPIHelper::FrameworkInstanceToCMPIInstance(const CIMInstance& inst,
                                                           const CMPIBroker* broker,
                                                           const char* const* properties) {
-    CMPIObjectPath* op = FrameworkObjectPathToCMPIObjectPath(inst.getPath(), broker);
+    CMPIObjectPath* op = pathOf(inst, broker);
     if (op == nullptr) {
         return nullptr;
     }
@@ -126,7 +161,8 @@ CMPIInstance* CMPIHelper::FrameworkInstanceToCMPIInstance(const CIMInstance& ins
     if (ci == nullptr || ci->ft == nullptr) {
         return nullptr;
     }
-    writeProperties(inst, ci, broker, properties);
+    PathKeys pathKeys = PathKeys::Unknown;
+    writeProperties(inst, ci, broker, properties, pathKeys);
     return ci;
 }
 
@@ -134,15 +170,15 @@ InstanceHandle CMPIHelper::FrameworkInstanceToCMPIInstance(const CIMInstance& in
                                                            const CMPIBroker* broker,
                                                            const char* const* properties,
                                                            InstanceFactory& factory) {
-    CMPIObjectPath* op = FrameworkObjectPathToCMPIObjectPath(inst.getPath(), broker);
+    CMPIObjectPath* op = pathOf(inst, broker);
     if (op == nullptr) {
         return {};
     }
-    InstanceHandle ci = factory.make(op, inst.getPath().getNameSpace(), inst.getPath().getClassName());
+    InstanceHandle ci = factory.make(op, inst.getNameSpace(), inst.getClassName());
     if (!ci || ci.get()->ft == nullptr) {
         return {};
     }
-    writeProperties(inst, ci.get(), broker, properties);
+    writeProperties(inst, ci.get(), broker, properties, factory.pathKeys());
     return ci;
 }
 

@@ -75,8 +75,8 @@ bool addKey(CMPIObjectPath* op, const std::string& name, const CMPIValue* value,
     return false;
 }
 
-void writeKeys(const fwf::CIMObjectPath& path, CMPIObjectPath* op, const CMPIBroker* broker) {
-    for (const fwf::CIMProperty& key : path.getKeyBindings()) {
+void writeKeys(const std::vector<fwf::CIMProperty>& keys, CMPIObjectPath* op, const CMPIBroker* broker) {
+    for (const fwf::CIMProperty& key : keys) {
         if (!isWritablePropertyType(key.getType())) {
             throw CIMException(fwf::CIM_ERR_NOT_SUPPORTED, " :: Not supported");
         }
@@ -132,23 +132,29 @@ void CMPIHelper::setKeys(const CMPIObjectPath* op, CIMObjectPath& path) {
 
 CMPIObjectPath* CMPIHelper::FrameworkObjectPathToCMPIObjectPath(const CIMObjectPath& path,
                                                                 const CMPIBroker* broker) {
+    return newCMPIObjectPath(path.getHostName(), path.getNameSpace(), path.getClassName(),
+                             path.keyBindings(), broker);
+}
+
+CMPIObjectPath* CMPIHelper::newCMPIObjectPath(const std::string& host, const std::string& nameSpace,
+                                              const std::string& className,
+                                              const std::vector<fwf::CIMProperty>& keys,
+                                              const CMPIBroker* broker) {
     TkzLogMsg(TKZ_LOG_DEBUG, " FrameworkObjectPathToCMPIObjectPath Enter");
-    TkzLogMsg(TKZ_LOG_DEBUG, " namespace %s", path.getNameSpace().c_str());
-    TkzLogMsg(TKZ_LOG_DEBUG, " classname %s", path.getClassName().c_str());
-    CMPIObjectPath* op = calls::newObjectPath(broker, path.getNameSpace().c_str(),
-                                              path.getClassName().c_str());
+    TkzLogMsg(TKZ_LOG_DEBUG, " namespace %s", nameSpace.c_str());
+    TkzLogMsg(TKZ_LOG_DEBUG, " classname %s", className.c_str());
+    CMPIObjectPath* op = calls::newObjectPath(broker, nameSpace.c_str(), className.c_str());
     if (op == nullptr || op->ft == nullptr) {
         return nullptr;
     }
-    if (!path.getHostName().empty()) {
-        if (op->ft->setHostname == nullptr ||
-            !calls::ok(op->ft->setHostname(op, path.getHostName().c_str()))) {
+    if (!host.empty()) {
+        if (op->ft->setHostname == nullptr || !calls::ok(op->ft->setHostname(op, host.c_str()))) {
             TkzLogMsg(TKZ_LOG_ERROR, "%s:Cannot set object path.",
                       "FrameworkObjectPathToCMPIObjectPath");
             failed();
         }
     }
-    writeKeys(path, op, broker);
+    writeKeys(keys, op, broker);
     return op;
 }
 

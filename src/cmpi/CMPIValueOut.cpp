@@ -1,6 +1,7 @@
 #include "cmpi/CMPIValueOut.h"
 
 #include <string>
+#include <type_traits>
 #include <vector>
 
 #include "cmpi/CMPIHelper.h"
@@ -114,22 +115,35 @@ void sendArray(const std::vector<Encoded>& elements, CMPIType elementType,
     send(sink, &value, static_cast<CMPIType>(elementType | CMPI_ARRAY));
 }
 
+// A scalar string goes as CMPI_chars: the broker copies the characters, and
+// no CMPI string object is made for them. For CMPI_chars the value pointer
+// is the pointer to the characters themselves.
+bool sendText(const std::string& text, const ValueSink& sink) {
+    return sink(reinterpret_cast<const CMPIValue*>(text.c_str()), CMPI_chars);
+}
+
 template <typename T>
 void writeAs(const CIMProperty& property, const CMPIBroker* broker, const char* function,
              const ValueSink& sink, CMPIType elementType) {
-    const std::vector<T> values = property.getValueAs<T>().getValues();
+    const std::size_t count = property.elementCount<T>();
     if (!fwf::isArrayType(property.getType())) {
-        if (values.empty()) {
+        if (count == 0) {
             mismatch(function, property);
         }
-        Encoded e = encode(values.front(), broker);
-        send(sink, &e.value, e.type);
+        if constexpr (std::is_same_v<T, std::string>) {
+            if (!sendText(property.elementAt<T>(0), sink)) {
+                failed();
+            }
+        } else {
+            Encoded e = encode(property.elementAt<T>(0), broker);
+            send(sink, &e.value, e.type);
+        }
         return;
     }
     std::vector<Encoded> elements;
-    elements.reserve(values.size());
-    for (const T& v : values) {
-        elements.push_back(encode(v, broker));
+    elements.reserve(count);
+    for (std::size_t i = 0; i < count; ++i) {
+        elements.push_back(encode(property.elementAt<T>(i), broker));
     }
     sendArray(elements, elementType, broker, sink);
 }

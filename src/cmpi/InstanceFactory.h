@@ -42,6 +42,10 @@ private:
     bool m_owned = false;
 };
 
+// Whether the broker sets an instance's key properties from its path (sfcb
+// does; OpenPegasus keeps the path's keys apart from the properties).
+enum class PathKeys { Unknown, SetByBroker, Apart };
+
 class InstanceFactory {
 public:
     explicit InstanceFactory(const CMPIBroker* broker) : m_broker(broker) {}
@@ -51,6 +55,9 @@ public:
     InstanceHandle make(const CMPIObjectPath* op, const std::string& nameSpace,
                         const std::string& className);
 
+    // What the answer's first instance showed of the broker (the same for all).
+    PathKeys& pathKeys() { return m_pathKeys; }
+
 private:
     // The empty instance of a class, or null when instances of the class
     // are made one by one.
@@ -58,6 +65,7 @@ private:
 
     const CMPIBroker* m_broker;
     std::unordered_map<std::string, CMPIInstance*> m_empty;  // by "namespace:class"
+    PathKeys m_pathKeys = PathKeys::Unknown;
 };
 
 }  // namespace vex::cim::adap::cmpi

@@ -36,6 +36,9 @@ public:
     CIMProperty getProperty(unsigned int index) const;
     std::vector<CIMProperty> getPropertyList() const { return m_properties; }
     std::vector<CIMProperty> getKeyPropertyList() const { return m_keyProperties; }
+    // The same lists read in place (valid while the instance lives unchanged).
+    const std::vector<CIMProperty>& properties() const { return m_properties; }
+    const std::vector<CIMProperty>& keyProperties() const { return m_keyProperties; }
 
     // The first property of exactly this name (case-sensitive), or null. The
     // pointer is valid until the property list changes; changing the property

@@ -25,6 +25,8 @@ public:
 
     // A copy of the key bindings.
     std::vector<CIMProperty> getKeyBindings() const { return m_keys; }
+    // The keys read in place (valid while the path lives unchanged).
+    const std::vector<CIMProperty>& keyBindings() const { return m_keys; }
     void setKeyBindings(std::vector<CIMProperty> keys) { m_keys = std::move(keys); }
 
     // Empties all four fields.

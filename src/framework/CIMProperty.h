@@ -56,6 +56,13 @@ public:
     template <typename T, typename = std::enable_if_t<detail::kIsSlotType<T>>>
     CIMValue<T> getValueAs() const;
 
+    // The elements of the slot of T read in place: their number (0 when the
+    // slot was never filled), and element i for i below that number.
+    template <typename T, typename = std::enable_if_t<detail::kIsSlotType<T>>>
+    std::size_t elementCount() const { return detail::elementCount<T>(slotOf<T>()); }
+    template <typename T, typename = std::enable_if_t<detail::kIsSlotType<T>>>
+    decltype(auto) elementAt(std::size_t i) const { return detail::elementAt<T>(slotOf<T>()->data(), i); }
+
     CIMValue<bool> getBoolValue() const;
     CIMValue<signed char> getSint8Value() const;
     CIMValue<unsigned char> getUint8Value() const;
