@@ -204,12 +204,23 @@ void record(const std::string &what) { g_calls.push_back(what); }
 
 CMPIStatus okStatus() { return CMPIStatus{CMPI_RC_OK, nullptr}; }
 
+// A slot that records it was reached and succeeds, or answers a null value.
+CMPIStatus hit(const std::string &what) {
+    record(what);
+    return okStatus();
+}
+
 CMPIData dataOf(CMPIType type, CMPIValue value) {
     CMPIData d;
     d.type = type;
     d.state = CMPI_goodValue;
     d.value = value;
     return d;
+}
+
+CMPIData nullHit(const std::string &what) {
+    record(what);
+    return dataOf(CMPI_null, CMPIValue{});
 }
 
 struct FakeWorld {
@@ -272,8 +283,7 @@ TEST(CmpiMacros, BrokerFactoriesReachTheirSlots) {
         record("newInstance");
         return &FakeWorld::self->inst;
     };
-    w.eft.newArray = [](const CMPIBroker *, CMPICount n, CMPIType t,
-                        CMPIStatus *) -> CMPIArray * {
+    w.eft.newArray = [](const CMPIBroker *, CMPICount n, CMPIType t, CMPIStatus *) -> CMPIArray * {
         record("newArray:" + std::to_string(n) + ":" + std::to_string(t));
         return &FakeWorld::self->arr;
     };
@@ -301,27 +311,27 @@ TEST(CmpiMacros, BrokerFactoriesReachTheirSlots) {
     EXPECT_TRUE(CMClassPathIsA(mb, &w.op, "CIM_Component", nullptr));
     EXPECT_EQ(CMNewDateTimeFromChars(mb, "20240101000000.000000+000", nullptr), nullptr);
 
-    const std::vector<std::string> expected = {
-        "newString:abc",          "newObjectPath:root/x/VEX_A", "newInstance",
-        "newArray:3:160",         "newArgs",                    "classPathIsA:CIM_Component",
-        "newDateTimeFromChars:20240101000000.000000+000"};
+    const std::vector<std::string> expected = {"newString:abc",
+                                               "newObjectPath:root/x/VEX_A",
+                                               "newInstance",
+                                               "newArray:3:160",
+                                               "newArgs",
+                                               "classPathIsA:CIM_Component",
+                                               "newDateTimeFromChars:20240101000000.000000+000"};
     EXPECT_EQ(g_calls, expected);
 }
 
 TEST(CmpiMacros, BrokerServicesReachTheirSlots) {
     FakeWorld w;
-    w.bft.prepareAttachThread = [](const CMPIBroker *,
-                                   const CMPIContext *c) -> CMPIContext * {
+    w.bft.prepareAttachThread = [](const CMPIBroker *, const CMPIContext *c) -> CMPIContext * {
         record("prepareAttachThread");
         return const_cast<CMPIContext *>(c);
     };
     w.bft.attachThread = [](const CMPIBroker *, const CMPIContext *) {
-        record("attachThread");
-        return okStatus();
+        return hit("attachThread");
     };
     w.bft.detachThread = [](const CMPIBroker *, const CMPIContext *) {
-        record("detachThread");
-        return okStatus();
+        return hit("detachThread");
     };
     w.bft.deliverIndication = [](const CMPIBroker *, const CMPIContext *, const char *ns,
                                  const CMPIInstance *i) {
@@ -330,8 +340,7 @@ TEST(CmpiMacros, BrokerServicesReachTheirSlots) {
         return okStatus();
     };
     w.bft.enumerateInstanceNames = [](const CMPIBroker *, const CMPIContext *,
-                                      const CMPIObjectPath *p,
-                                      CMPIStatus *) -> CMPIEnumeration * {
+                                      const CMPIObjectPath *p, CMPIStatus *) -> CMPIEnumeration * {
         EXPECT_EQ(p, &FakeWorld::self->op);
         record("enumerateInstanceNames");
         return &FakeWorld::self->enm;
@@ -353,8 +362,7 @@ TEST(CmpiMacros, BrokerServicesReachTheirSlots) {
 TEST(CmpiMacros, ObjectPathAndInstanceAccessors) {
     FakeWorld w;
     w.opFt.getKeyCount = [](const CMPIObjectPath *, CMPIStatus *) -> CMPICount { return 2; };
-    w.opFt.getKeyAt = [](const CMPIObjectPath *, CMPICount i, CMPIString **name,
-                         CMPIStatus *) {
+    w.opFt.getKeyAt = [](const CMPIObjectPath *, CMPICount i, CMPIString **name, CMPIStatus *) {
         record("getKeyAt:" + std::to_string(i));
         *name = &FakeWorld::self->str;
         CMPIValue v{};
@@ -362,14 +370,12 @@ TEST(CmpiMacros, ObjectPathAndInstanceAccessors) {
         return dataOf(CMPI_sint64, v);
     };
     w.opFt.getKey = [](const CMPIObjectPath *, const char *n, CMPIStatus *) {
-        record(std::string("getKey:") + n);
-        return dataOf(CMPI_null, CMPIValue{});
+        return nullHit(std::string("getKey:") + n);
     };
     // With CMPI_chars the value pointer is the character pointer itself.
     w.opFt.addKey = [](CMPIObjectPath *, const char *n, const CMPIValue *v, CMPIType t) {
-        record(std::string("addKey:") + n + "=" + reinterpret_cast<const char *>(v) + ":" +
-               std::to_string(t));
-        return okStatus();
+        return hit(std::string("addKey:") + n + "=" + reinterpret_cast<const char *>(v) + ":" +
+                   std::to_string(t));
     };
     w.opFt.getClassName = [](const CMPIObjectPath *, CMPIStatus *) -> CMPIString * {
         record("getClassName");
@@ -384,29 +390,21 @@ TEST(CmpiMacros, ObjectPathAndInstanceAccessors) {
         return nullptr;
     };
     w.opFt.setHostname = [](CMPIObjectPath *, const char *h) {
-        record(std::string("setHostname:") + h);
-        return okStatus();
+        return hit(std::string("setHostname:") + h);
     };
     w.strFt.getCharPtr = [](const CMPIString *, CMPIStatus *) -> const char * {
         return "DeviceID";
     };
-    w.instFt.setProperty = [](const CMPIInstance *, const char *n, const CMPIValue *v,
-                              CMPIType t) {
-        record(std::string("setProperty:") + n + "=" + std::to_string(v->uint16) + ":" +
-               std::to_string(t));
-        return okStatus();
+    w.instFt.setProperty = [](const CMPIInstance *, const char *n, const CMPIValue *v, CMPIType t) {
+        return hit(std::string("setProperty:") + n + "=" + std::to_string(v->uint16) + ":" +
+                   std::to_string(t));
     };
-    w.instFt.getPropertyCount = [](const CMPIInstance *, CMPIStatus *) -> CMPICount {
-        return 5;
-    };
-    w.instFt.getPropertyAt = [](const CMPIInstance *, CMPICount i, CMPIString **,
-                                CMPIStatus *) {
-        record("getPropertyAt:" + std::to_string(i));
-        return dataOf(CMPI_null, CMPIValue{});
+    w.instFt.getPropertyCount = [](const CMPIInstance *, CMPIStatus *) -> CMPICount { return 5; };
+    w.instFt.getPropertyAt = [](const CMPIInstance *, CMPICount i, CMPIString **, CMPIStatus *) {
+        return nullHit("getPropertyAt:" + std::to_string(i));
     };
     w.instFt.getProperty = [](const CMPIInstance *, const char *n, CMPIStatus *) {
-        record(std::string("getProperty:") + n);
-        return dataOf(CMPI_null, CMPIValue{});
+        return nullHit(std::string("getProperty:") + n);
     };
 
     CMPIObjectPath *op = &w.op;
@@ -431,48 +429,45 @@ TEST(CmpiMacros, ObjectPathAndInstanceAccessors) {
     CMGetPropertyAt(ci, 4, nullptr, nullptr);
     CMGetProperty(ci, "Name", nullptr);
 
-    const std::vector<std::string> expected = {
-        "getKeyAt:1",   "getKey:Tag",          "addKey:CreationClassName=VEX_A:5888",
-        "getClassName", "getNameSpace",        "getHostname",
-        "setHostname:h1", "setProperty:HealthState=5:144",
-        "getPropertyAt:4", "getProperty:Name"};
+    const std::vector<std::string> expected = {"getKeyAt:1",
+                                               "getKey:Tag",
+                                               "addKey:CreationClassName=VEX_A:5888",
+                                               "getClassName",
+                                               "getNameSpace",
+                                               "getHostname",
+                                               "setHostname:h1",
+                                               "setProperty:HealthState=5:144",
+                                               "getPropertyAt:4",
+                                               "getProperty:Name"};
     EXPECT_EQ(g_calls, expected);
 }
 
 TEST(CmpiMacros, ArgsArraysEnumerationsContextAndResult) {
     FakeWorld w;
     w.argsFt.addArg = [](const CMPIArgs *, const char *n, const CMPIValue *v, CMPIType t) {
-        record(std::string("addArg:") + n + "=" + std::to_string(v->uint32) + ":" +
-               std::to_string(t));
-        return okStatus();
+        return hit(std::string("addArg:") + n + "=" + std::to_string(v->uint32) + ":" +
+                   std::to_string(t));
     };
     w.argsFt.getArg = [](const CMPIArgs *, const char *n, CMPIStatus *) {
-        record(std::string("getArg:") + n);
-        return dataOf(CMPI_null, CMPIValue{});
+        return nullHit(std::string("getArg:") + n);
     };
     w.argsFt.getArgAt = [](const CMPIArgs *, CMPICount i, CMPIString **, CMPIStatus *) {
-        record("getArgAt:" + std::to_string(i));
-        return dataOf(CMPI_null, CMPIValue{});
+        return nullHit("getArgAt:" + std::to_string(i));
     };
     w.argsFt.getArgCount = [](const CMPIArgs *, CMPIStatus *) -> CMPICount { return 3; };
     w.arrFt.getSize = [](const CMPIArray *, CMPIStatus *) -> CMPICount { return 4; };
     w.arrFt.setElementAt = [](CMPIArray *, CMPICount i, const CMPIValue *v, CMPIType t) {
-        record("setElementAt:" + std::to_string(i) + "=" + reinterpret_cast<const char *>(v) +
-               ":" + std::to_string(t));
-        return okStatus();
+        return hit("setElementAt:" + std::to_string(i) + "=" + reinterpret_cast<const char *>(v) +
+                   ":" + std::to_string(t));
     };
     w.arrFt.getElementAt = [](const CMPIArray *, CMPICount i, CMPIStatus *) {
-        record("getElementAt:" + std::to_string(i));
-        return dataOf(CMPI_null, CMPIValue{});
+        return nullHit("getElementAt:" + std::to_string(i));
     };
     w.enmFt.hasNext = [](const CMPIEnumeration *, CMPIStatus *) -> CMPIBoolean {
         record("hasNext");
         return 0;
     };
-    w.enmFt.getNext = [](const CMPIEnumeration *, CMPIStatus *) {
-        record("getNext");
-        return dataOf(CMPI_null, CMPIValue{});
-    };
+    w.enmFt.getNext = [](const CMPIEnumeration *, CMPIStatus *) { return nullHit("getNext"); };
     w.ctxFt.getEntry = [](const CMPIContext *, const char *n, CMPIStatus *) {
         record(std::string("getEntry:") + n);
         CMPIValue v{};
@@ -490,13 +485,9 @@ TEST(CmpiMacros, ArgsArraysEnumerationsContextAndResult) {
         return okStatus();
     };
     w.rsltFt.returnData = [](const CMPIResult *, const CMPIValue *v, CMPIType t) {
-        record("returnData:" + std::to_string(v->uint32) + ":" + std::to_string(t));
-        return okStatus();
+        return hit("returnData:" + std::to_string(v->uint32) + ":" + std::to_string(t));
     };
-    w.rsltFt.returnDone = [](const CMPIResult *) {
-        record("returnDone");
-        return okStatus();
-    };
+    w.rsltFt.returnDone = [](const CMPIResult *) { return hit("returnDone"); };
 
     CMPIUint32 jobs = 9;
     CMAddArg(&w.args, "Job", &jobs, CMPI_uint32);
@@ -516,10 +507,9 @@ TEST(CmpiMacros, ArgsArraysEnumerationsContextAndResult) {
     CMReturnDone(&w.rslt);
 
     const std::vector<std::string> expected = {
-        "addArg:Job=9:160",  "getArg:Size",           "getArgAt:2",
-        "setElementAt:1=x:5888", "getElementAt:3",    "hasNext",
-        "getNext",           "getEntry:CMPIPrincipal", "returnInstance",
-        "returnObjectPath",  "returnData:9:160",      "returnDone"};
+        "addArg:Job=9:160", "getArg:Size",      "getArgAt:2",       "setElementAt:1=x:5888",
+        "getElementAt:3",   "hasNext",          "getNext",          "getEntry:CMPIPrincipal",
+        "returnInstance",   "returnObjectPath", "returnData:9:160", "returnDone"};
     EXPECT_EQ(g_calls, expected);
 }
 
@@ -592,28 +582,21 @@ TEST(CmpiMacros, MacrosCompiledAsC) {
         record("getNameSpace");
         return &FakeWorld::self->str;
     };
-    w.strFt.getCharPtr = [](const CMPIString *, CMPIStatus *) -> const char * {
-        return "root/ns";
-    };
+    w.strFt.getCharPtr = [](const CMPIString *, CMPIStatus *) -> const char * { return "root/ns"; };
     w.eft.newObjectPath = [](const CMPIBroker *, const char *ns, const char *cn,
                              CMPIStatus *) -> CMPIObjectPath * {
         record(std::string("newObjectPath:") + ns + "/" + cn);
         return &FakeWorld::self->op;
     };
     w.opFt.addKey = [](CMPIObjectPath *, const char *n, const CMPIValue *v, CMPIType t) {
-        record(std::string("addKey:") + n + ":" +
-               (t == CMPI_chars ? std::string(reinterpret_cast<const char *>(v))
-                                : std::to_string(v->uint16)));
-        return okStatus();
+        return hit(std::string("addKey:") + n + ":" +
+                   (t == CMPI_chars ? std::string(reinterpret_cast<const char *>(v))
+                                    : std::to_string(v->uint16)));
     };
     w.rsltFt.returnObjectPath = [](const CMPIResult *, const CMPIObjectPath *) {
-        record("returnObjectPath");
-        return okStatus();
+        return hit("returnObjectPath");
     };
-    w.rsltFt.returnDone = [](const CMPIResult *) {
-        record("returnDone");
-        return okStatus();
-    };
+    w.rsltFt.returnDone = [](const CMPIResult *) { return hit("returnDone"); };
     w.eft.newString = [](const CMPIBroker *, const char *s, CMPIStatus *) -> CMPIString * {
         record(std::string("newString:") + s);
         return &FakeWorld::self->str;
@@ -621,10 +604,13 @@ TEST(CmpiMacros, MacrosCompiledAsC) {
 
     CMPIStatus st = layout_c_enum_names(&w.broker, &w.ctx, &w.rslt, &w.op);
     EXPECT_EQ(st.rc, CMPI_RC_OK);
-    const std::vector<std::string> expected = {
-        "getEntry:CMPIPrincipal", "getNameSpace", "newObjectPath:root/ns/VEX_Probe",
-        "addKey:Name:disk0",      "addKey:Slot:7", "returnObjectPath",
-        "returnDone"};
+    const std::vector<std::string> expected = {"getEntry:CMPIPrincipal",
+                                               "getNameSpace",
+                                               "newObjectPath:root/ns/VEX_Probe",
+                                               "addKey:Name:disk0",
+                                               "addKey:Slot:7",
+                                               "returnObjectPath",
+                                               "returnDone"};
     EXPECT_EQ(g_calls, expected);
 
     g_calls.clear();
