@@ -618,6 +618,16 @@ static CMPIStatus HTInvokeMethod(CMPIMethodMI *mi, const CMPIContext *ctx, const
 /* Indication MI                                                      */
 /* ------------------------------------------------------------------ */
 
+/* The handles and names every filter request carries. */
+#define NEED_FILTER(c)                         \
+    do {                                       \
+        needMI(&(c), mi);                      \
+        need(&(c), "ctx", ctx);                \
+        need(&(c), "filter", filter);          \
+        needText(&(c), "class", className);    \
+        need(&(c), "ref", op);                 \
+    } while (0)
+
 static CMPIStatus filterText(const CMPISelectExp *filter, const char *what, const char *cls,
                              const char *extra) {
     char text[256];
@@ -633,11 +643,7 @@ static CMPIStatus HTAuthorizeFilter(CMPIIndicationMI *mi, const CMPIContext *ctx
                                     const CMPISelectExp *filter, const char *className,
                                     const CMPIObjectPath *op, const char *owner) {
     Check c = {"", 0};
-    needMI(&c, mi);
-    need(&c, "ctx", ctx);
-    need(&c, "filter", filter);
-    needText(&c, "class", className);
-    need(&c, "ref", op);
+    NEED_FILTER(c);
     needText(&c, "owner", owner);
     CHECKED(c);
     return filterText(filter, "authorize", className, owner);
@@ -647,11 +653,7 @@ static CMPIStatus HTMustPoll(CMPIIndicationMI *mi, const CMPIContext *ctx,
                              const CMPISelectExp *filter, const char *className,
                              const CMPIObjectPath *op) {
     Check c = {"", 0};
-    needMI(&c, mi);
-    need(&c, "ctx", ctx);
-    need(&c, "filter", filter);
-    needText(&c, "class", className);
-    need(&c, "ref", op);
+    NEED_FILTER(c);
     CHECKED(c);
     return filterText(filter, "poll", className, "");
 }
@@ -660,11 +662,7 @@ static CMPIStatus HTActivateFilter(CMPIIndicationMI *mi, const CMPIContext *ctx,
                                    const CMPISelectExp *filter, const char *className,
                                    const CMPIObjectPath *op, CMPIBoolean first) {
     Check c = {"", 0};
-    needMI(&c, mi);
-    need(&c, "ctx", ctx);
-    need(&c, "filter", filter);
-    needText(&c, "class", className);
-    need(&c, "ref", op);
+    NEED_FILTER(c);
     CHECKED(c);
     return filterText(filter, "activate", className, first ? "first" : "more");
 }
@@ -673,11 +671,7 @@ static CMPIStatus HTDeActivateFilter(CMPIIndicationMI *mi, const CMPIContext *ct
                                      const CMPISelectExp *filter, const char *className,
                                      const CMPIObjectPath *op, CMPIBoolean last) {
     Check c = {"", 0};
-    needMI(&c, mi);
-    need(&c, "ctx", ctx);
-    need(&c, "filter", filter);
-    needText(&c, "class", className);
-    need(&c, "ref", op);
+    NEED_FILTER(c);
     CHECKED(c);
     return filterText(filter, "deactivate", className, last ? "last" : "more");
 }
