@@ -21,14 +21,10 @@
 #error "without CMPI_VERSION the headers must describe CMPI 2.0"
 #endif
 
-#define CMPI_LAYOUT_CAT_(a, b) a##b
-#define CMPI_LAYOUT_CAT(a, b) CMPI_LAYOUT_CAT_(a, b)
-#define CMPI_LAYOUT_SLOT(type, member, offset)                           \
-    typedef char CMPI_LAYOUT_CAT(layout_slot_line_, __LINE__)            \
-        [(offsetof(type, member) == (offset)) ? 1 : -1];
-#define CMPI_LAYOUT_SIZE(type, size)                                     \
-    typedef char CMPI_LAYOUT_CAT(layout_size_line_, __LINE__)            \
-        [(sizeof(type) == (size)) ? 1 : -1];
+#define CMPI_LAYOUT_SLOT(type, member, offset) \
+    typedef char layout_slot_##type##_##member[(offsetof(type, member) == (offset)) ? 1 : -1];
+#define CMPI_LAYOUT_SIZE(type, size) \
+    typedef char layout_size_##type[(sizeof(type) == (size)) ? 1 : -1];
 #include "cmpi_layout_table.h"
 
 /* ---------------------------------------------------------------------- */
@@ -54,247 +50,55 @@ const char *layout_probe_last(void) { return probe_last; }
 int layout_probe_hooks(void) { return probe_hooks; }
 const CMPIBroker *layout_probe_broker(void) { return probe_broker; }
 
-#define UNUSED2(a, b) ((void)(a), (void)(b))
-#define UNUSED3(a, b, c) ((void)(a), (void)(b), (void)(c))
+/* Each probe only tells which slot was reached; the stub macros below
+ * check its signature when they put it in the table. */
+#pragma GCC diagnostic ignored "-Wunused-parameter"
+#define PROBE(name, what, params) \
+    static CMPIStatus name params { return probe_hit(what); }
 
-/* instance MI */
-static CMPIStatus ProbeCleanup(CMPIInstanceMI *mi, const CMPIContext *ctx,
-                               CMPIBoolean term)
-{
-    UNUSED3(mi, ctx, term);
-    return probe_hit("instance.cleanup");
-}
-static CMPIStatus ProbeEnumInstanceNames(CMPIInstanceMI *mi,
-                                         const CMPIContext *ctx,
-                                         const CMPIResult *rslt,
-                                         const CMPIObjectPath *op)
-{
-    UNUSED2(mi, ctx);
-    UNUSED2(rslt, op);
-    return probe_hit("instance.enumerateInstanceNames");
-}
-static CMPIStatus ProbeEnumInstances(CMPIInstanceMI *mi, const CMPIContext *ctx,
-                                     const CMPIResult *rslt,
-                                     const CMPIObjectPath *op,
-                                     const char **props)
-{
-    UNUSED3(mi, ctx, rslt);
-    UNUSED2(op, props);
-    return probe_hit("instance.enumerateInstances");
-}
-static CMPIStatus ProbeGetInstance(CMPIInstanceMI *mi, const CMPIContext *ctx,
-                                   const CMPIResult *rslt,
-                                   const CMPIObjectPath *op, const char **props)
-{
-    UNUSED3(mi, ctx, rslt);
-    UNUSED2(op, props);
-    return probe_hit("instance.getInstance");
-}
-static CMPIStatus ProbeCreateInstance(CMPIInstanceMI *mi,
-                                      const CMPIContext *ctx,
-                                      const CMPIResult *rslt,
-                                      const CMPIObjectPath *op,
-                                      const CMPIInstance *inst)
-{
-    UNUSED3(mi, ctx, rslt);
-    UNUSED2(op, inst);
-    return probe_hit("instance.createInstance");
-}
-static CMPIStatus ProbeModifyInstance(CMPIInstanceMI *mi,
-                                      const CMPIContext *ctx,
-                                      const CMPIResult *rslt,
-                                      const CMPIObjectPath *op,
-                                      const CMPIInstance *inst,
-                                      const char **props)
-{
-    UNUSED3(mi, ctx, rslt);
-    UNUSED3(op, inst, props);
-    return probe_hit("instance.modifyInstance");
-}
-static CMPIStatus ProbeDeleteInstance(CMPIInstanceMI *mi,
-                                      const CMPIContext *ctx,
-                                      const CMPIResult *rslt,
-                                      const CMPIObjectPath *op)
-{
-    UNUSED2(mi, ctx);
-    UNUSED2(rslt, op);
-    return probe_hit("instance.deleteInstance");
-}
-static CMPIStatus ProbeExecQuery(CMPIInstanceMI *mi, const CMPIContext *ctx,
-                                 const CMPIResult *rslt,
-                                 const CMPIObjectPath *op, const char *query,
-                                 const char *lang)
-{
-    UNUSED3(mi, ctx, rslt);
-    UNUSED3(op, query, lang);
-    return probe_hit("instance.execQuery");
-}
+#define MI_ARGS(T) T *mi, const CMPIContext *ctx, const CMPIResult *rslt, const CMPIObjectPath *op
+#define IND_ARGS CMPIIndicationMI *mi, const CMPIContext *ctx, const CMPISelectExp *filter, \
+    const char *className, const CMPIObjectPath *op
 
-/* association MI */
-static CMPIStatus ProbeAssociationCleanup(CMPIAssociationMI *mi,
-                                         const CMPIContext *ctx,
-                                         CMPIBoolean term)
-{
-    UNUSED3(mi, ctx, term);
-    return probe_hit("association.cleanup");
-}
-static CMPIStatus ProbeAssociators(CMPIAssociationMI *mi,
-                                  const CMPIContext *ctx,
-                                  const CMPIResult *rslt,
-                                  const CMPIObjectPath *op,
-                                  const char *assocClass,
-                                  const char *resultClass, const char *role,
-                                  const char *resultRole, const char **props)
-{
-    UNUSED3(mi, ctx, rslt);
-    UNUSED3(op, assocClass, resultClass);
-    UNUSED3(role, resultRole, props);
-    return probe_hit("association.associators");
-}
-static CMPIStatus ProbeAssociatorNames(CMPIAssociationMI *mi,
-                                      const CMPIContext *ctx,
-                                      const CMPIResult *rslt,
-                                      const CMPIObjectPath *op,
-                                      const char *assocClass,
-                                      const char *resultClass,
-                                      const char *role,
-                                      const char *resultRole)
-{
-    UNUSED3(mi, ctx, rslt);
-    UNUSED3(op, assocClass, resultClass);
-    UNUSED2(role, resultRole);
-    return probe_hit("association.associatorNames");
-}
-static CMPIStatus ProbeReferences(CMPIAssociationMI *mi, const CMPIContext *ctx,
-                                 const CMPIResult *rslt,
-                                 const CMPIObjectPath *op,
-                                 const char *resultClass, const char *role,
-                                 const char **props)
-{
-    UNUSED3(mi, ctx, rslt);
-    UNUSED2(op, resultClass);
-    UNUSED2(role, props);
-    return probe_hit("association.references");
-}
-static CMPIStatus ProbeReferenceNames(CMPIAssociationMI *mi,
-                                     const CMPIContext *ctx,
-                                     const CMPIResult *rslt,
-                                     const CMPIObjectPath *op,
-                                     const char *resultClass,
-                                     const char *role)
-{
-    UNUSED3(mi, ctx, rslt);
-    UNUSED3(op, resultClass, role);
-    return probe_hit("association.referenceNames");
-}
+PROBE(ProbeCleanup, "instance.cleanup", (CMPIInstanceMI *mi, const CMPIContext *ctx, CMPIBoolean term))
+PROBE(ProbeEnumInstanceNames, "instance.enumerateInstanceNames", (MI_ARGS(CMPIInstanceMI)))
+PROBE(ProbeEnumInstances, "instance.enumerateInstances", (MI_ARGS(CMPIInstanceMI), const char **props))
+PROBE(ProbeGetInstance, "instance.getInstance", (MI_ARGS(CMPIInstanceMI), const char **props))
+PROBE(ProbeCreateInstance, "instance.createInstance", (MI_ARGS(CMPIInstanceMI), const CMPIInstance *inst))
+PROBE(ProbeModifyInstance, "instance.modifyInstance",
+      (MI_ARGS(CMPIInstanceMI), const CMPIInstance *inst, const char **props))
+PROBE(ProbeDeleteInstance, "instance.deleteInstance", (MI_ARGS(CMPIInstanceMI)))
+PROBE(ProbeExecQuery, "instance.execQuery", (MI_ARGS(CMPIInstanceMI), const char *query, const char *lang))
 
-/* method MI */
-static CMPIStatus ProbeMethodCleanup(CMPIMethodMI *mi, const CMPIContext *ctx,
-                                    CMPIBoolean term)
-{
-    UNUSED3(mi, ctx, term);
-    return probe_hit("method.cleanup");
-}
-static CMPIStatus ProbeInvokeMethod(CMPIMethodMI *mi, const CMPIContext *ctx,
-                                   const CMPIResult *rslt,
-                                   const CMPIObjectPath *op,
-                                   const char *method, const CMPIArgs *in,
-                                   CMPIArgs *out)
-{
-    UNUSED3(mi, ctx, rslt);
-    UNUSED2(op, method);
-    UNUSED2(in, out);
-    return probe_hit("method.invokeMethod");
-}
+PROBE(ProbeAssociationCleanup, "association.cleanup",
+      (CMPIAssociationMI *mi, const CMPIContext *ctx, CMPIBoolean term))
+PROBE(ProbeAssociators, "association.associators",
+      (MI_ARGS(CMPIAssociationMI), const char *assocClass, const char *resultClass, const char *role,
+       const char *resultRole, const char **props))
+PROBE(ProbeAssociatorNames, "association.associatorNames",
+      (MI_ARGS(CMPIAssociationMI), const char *assocClass, const char *resultClass, const char *role,
+       const char *resultRole))
+PROBE(ProbeReferences, "association.references",
+      (MI_ARGS(CMPIAssociationMI), const char *resultClass, const char *role, const char **props))
+PROBE(ProbeReferenceNames, "association.referenceNames",
+      (MI_ARGS(CMPIAssociationMI), const char *resultClass, const char *role))
 
-/* property MI */
-static CMPIStatus ProbePropertyCleanup(CMPIPropertyMI *mi,
-                                      const CMPIContext *ctx,
-                                      CMPIBoolean term)
-{
-    UNUSED3(mi, ctx, term);
-    return probe_hit("property.cleanup");
-}
-static CMPIStatus ProbeSetProperty(CMPIPropertyMI *mi, const CMPIContext *ctx,
-                                  const CMPIResult *rslt,
-                                  const CMPIObjectPath *op, const char *name,
-                                  const CMPIData data)
-{
-    UNUSED3(mi, ctx, rslt);
-    UNUSED3(op, name, data);
-    return probe_hit("property.setProperty");
-}
-static CMPIStatus ProbeGetProperty(CMPIPropertyMI *mi, const CMPIContext *ctx,
-                                  const CMPIResult *rslt,
-                                  const CMPIObjectPath *op, const char *name)
-{
-    UNUSED3(mi, ctx, rslt);
-    UNUSED2(op, name);
-    return probe_hit("property.getProperty");
-}
+PROBE(ProbeMethodCleanup, "method.cleanup", (CMPIMethodMI *mi, const CMPIContext *ctx, CMPIBoolean term))
+PROBE(ProbeInvokeMethod, "method.invokeMethod",
+      (MI_ARGS(CMPIMethodMI), const char *method, const CMPIArgs *in, CMPIArgs *out))
 
-/* indication MI */
-static CMPIStatus ProbeIndicationCleanup(CMPIIndicationMI *mi,
-                                        const CMPIContext *ctx,
-                                        CMPIBoolean term)
-{
-    UNUSED3(mi, ctx, term);
-    return probe_hit("indication.cleanup");
-}
-static CMPIStatus ProbeAuthorizeFilter(CMPIIndicationMI *mi,
-                                      const CMPIContext *ctx,
-                                      const CMPISelectExp *filter,
-                                      const char *className,
-                                      const CMPIObjectPath *op,
-                                      const char *owner)
-{
-    UNUSED3(mi, ctx, filter);
-    UNUSED3(className, op, owner);
-    return probe_hit("indication.authorizeFilter");
-}
-static CMPIStatus ProbeMustPoll(CMPIIndicationMI *mi, const CMPIContext *ctx,
-                               const CMPISelectExp *filter,
-                               const char *className,
-                               const CMPIObjectPath *classPath)
-{
-    UNUSED3(mi, ctx, filter);
-    UNUSED2(className, classPath);
-    return probe_hit("indication.mustPoll");
-}
-static CMPIStatus ProbeActivateFilter(CMPIIndicationMI *mi,
-                                     const CMPIContext *ctx,
-                                     const CMPISelectExp *filter,
-                                     const char *className,
-                                     const CMPIObjectPath *classPath,
-                                     CMPIBoolean first)
-{
-    UNUSED3(mi, ctx, filter);
-    UNUSED3(className, classPath, first);
-    return probe_hit("indication.activateFilter");
-}
-static CMPIStatus ProbeDeActivateFilter(CMPIIndicationMI *mi,
-                                       const CMPIContext *ctx,
-                                       const CMPISelectExp *filter,
-                                       const char *className,
-                                       const CMPIObjectPath *classPath,
-                                       CMPIBoolean last)
-{
-    UNUSED3(mi, ctx, filter);
-    UNUSED3(className, classPath, last);
-    return probe_hit("indication.deActivateFilter");
-}
-static CMPIStatus ProbeEnableIndications(CMPIIndicationMI *mi,
-                                        const CMPIContext *ctx)
-{
-    UNUSED2(mi, ctx);
-    return probe_hit("indication.enableIndications");
-}
-static CMPIStatus ProbeDisableIndications(CMPIIndicationMI *mi,
-                                         const CMPIContext *ctx)
-{
-    UNUSED2(mi, ctx);
-    return probe_hit("indication.disableIndications");
-}
+PROBE(ProbePropertyCleanup, "property.cleanup", (CMPIPropertyMI *mi, const CMPIContext *ctx, CMPIBoolean term))
+PROBE(ProbeSetProperty, "property.setProperty", (MI_ARGS(CMPIPropertyMI), const char *name, const CMPIData data))
+PROBE(ProbeGetProperty, "property.getProperty", (MI_ARGS(CMPIPropertyMI), const char *name))
+
+PROBE(ProbeIndicationCleanup, "indication.cleanup",
+      (CMPIIndicationMI *mi, const CMPIContext *ctx, CMPIBoolean term))
+PROBE(ProbeAuthorizeFilter, "indication.authorizeFilter", (IND_ARGS, const char *owner))
+PROBE(ProbeMustPoll, "indication.mustPoll", (IND_ARGS))
+PROBE(ProbeActivateFilter, "indication.activateFilter", (IND_ARGS, CMPIBoolean first))
+PROBE(ProbeDeActivateFilter, "indication.deActivateFilter", (IND_ARGS, CMPIBoolean last))
+PROBE(ProbeEnableIndications, "indication.enableIndications", (CMPIIndicationMI *mi, const CMPIContext *ctx))
+PROBE(ProbeDisableIndications, "indication.disableIndications", (CMPIIndicationMI *mi, const CMPIContext *ctx))
 
 CMInstanceMIStub(Probe, layoutprobe, probe_broker, probe_hooks++)
 CMAssociationMIStub(Probe, layoutprobe, probe_broker, CMNoHook)

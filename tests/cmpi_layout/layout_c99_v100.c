@@ -18,14 +18,10 @@
 #error "CMPI_VERSION=100 must select the CMPI 1.0 interface"
 #endif
 
-#define CMPI_LAYOUT_CAT_(a, b) a##b
-#define CMPI_LAYOUT_CAT(a, b) CMPI_LAYOUT_CAT_(a, b)
-#define CMPI_LAYOUT_SLOT(type, member, offset)                           \
-    typedef char CMPI_LAYOUT_CAT(layout_slot_line_, __LINE__)            \
-        [(offsetof(type, member) == (offset)) ? 1 : -1];
-#define CMPI_LAYOUT_SIZE(type, size)                                     \
-    typedef char CMPI_LAYOUT_CAT(layout_size_line_, __LINE__)            \
-        [(sizeof(type) == (size)) ? 1 : -1];
+#define CMPI_LAYOUT_SLOT(type, member, offset) \
+    typedef char layout_slot_##type##_##member[(offsetof(type, member) == (offset)) ? 1 : -1];
+#define CMPI_LAYOUT_SIZE(type, size) \
+    typedef char layout_size_##type[(sizeof(type) == (size)) ? 1 : -1];
 #include "cmpi_layout_table.h"
 
 int layout_v100_current_version(void)

@@ -120,14 +120,5 @@ TEST_F(ProviderRequestsTest, MethodsRunAsControllerRoutines) {
     EXPECT_EQ(cimom().invokeMethod(first("VEX_DiskDrive").path, "getRoutineList").status.rc, CMPI_RC_ERR_FAILED);
 }
 
-TEST(ProviderStartTest, WithoutControllersOnlyTheHostClassesAreServed) {
-    SimulatedSystem none(shippedSystem("none.json"));
-    cmpihost::Host host;
-    loadFreshProvider(host);
-    EXPECT_EQ(host.enumerateInstances({kImplNs, "VEX_DiskDrive"}).status.rc, CMPI_RC_ERR_INVALID_CLASS);
-    EXPECT_EQ(host.enumerateInstances({kImplNs, "VEX_ControllerView"}).status.rc, CMPI_RC_ERR_INVALID_CLASS);
-    EXPECT_TRUE(host.enumerateInstances({"root/PG_InterOp", "VEX_RegisteredProfile"}).ok());
-}
-
 }  // namespace
 }  // namespace vex::datapath

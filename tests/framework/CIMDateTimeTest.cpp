@@ -22,29 +22,23 @@ CIMDateTime moment(unsigned int year, unsigned int month, unsigned int day, unsi
     return CIMDateTime(record);
 }
 
-TEST(CIMDateTimeCalendar, LeapYears) {
-    EXPECT_TRUE(CIMDateTime::isLeapYear(2000));
-    EXPECT_FALSE(CIMDateTime::isLeapYear(1900));
-    EXPECT_TRUE(CIMDateTime::isLeapYear(2024));
-    EXPECT_FALSE(CIMDateTime::isLeapYear(2023));
-}
-
-TEST(CIMDateTimeCalendar, MonthTables) {
+// Leap years, month lengths (the days passed ignore leap years) and the
+// days of the whole years between two years (none when not later).
+TEST(CIMDateTimeCalendar, LeapYearsMonthsAndYearsInBetween) {
+    EXPECT_TRUE(CIMDateTime::isLeapYear(2000) && CIMDateTime::isLeapYear(2024));
+    EXPECT_FALSE(CIMDateTime::isLeapYear(1900) || CIMDateTime::isLeapYear(2023));
     EXPECT_EQ(CIMDateTime::getDaysPerMonth(2024, 2), 29u);
     EXPECT_EQ(CIMDateTime::getDaysPerMonth(1900, 2), 28u);
     EXPECT_EQ(CIMDateTime::getDaysPerMonth(2023, 12), 31u);
     EXPECT_EQ(CIMDateTime::getDaysPerMonth(2023, 13), 0u);
-    EXPECT_EQ(CIMDateTime::getDaysPassed(2), 59u) << "no leap-year correction";
+    EXPECT_EQ(CIMDateTime::getDaysPassed(2), 59u);
     EXPECT_EQ(CIMDateTime::getDaysPassed(12), 365u);
     EXPECT_EQ(CIMDateTime::getDaysPassed(0), 0u);
-}
-
-TEST(CIMDateTimeCalendar, DaysOfTheYearsInBetween) {
-    EXPECT_EQ(CIMDateTime::getDifferenceInYears(2025, 2024), 0u);
     EXPECT_EQ(CIMDateTime::getDifferenceInYears(2026, 2024), 365u);
     EXPECT_EQ(CIMDateTime::getDifferenceInYears(2025, 2023), 366u);
-    EXPECT_EQ(CIMDateTime::getDifferenceInYears(2024, 2024), 0u);
-    EXPECT_EQ(CIMDateTime::getDifferenceInYears(2020, 2024), 0u);
+    for (unsigned int later : {2025u, 2024u, 2020u}) {
+        EXPECT_EQ(CIMDateTime::getDifferenceInYears(later, 2024), 0u) << later;
+    }
 }
 
 TEST(CIMDateTimeText, CimFormWithTheFixedOffset) {

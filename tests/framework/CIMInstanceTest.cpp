@@ -79,19 +79,6 @@ TEST(CIMInstanceProperties, LookUpByExactNameAndRenameInPlace) {
     EXPECT_EQ(readOnly.getPropertyByName("Name")->getStringValue().getValues()[0], "second");
 }
 
-TEST(CIMInstanceProperties, CopiesAreIndependent) {
-    CIMInstance original;
-    original.setPath(volumePath("h", ""));
-    original.addCimKeyBinding(stringKey("DeviceID", "0_1"));
-    CIMInstance copy = original;
-    original.addProperty(stringProp("Extra", "x"));
-    original.getPropertyByName("DeviceID")->setName("Changed");
-
-    EXPECT_EQ(copy.getPropertyCount(), 1u);
-    EXPECT_EQ(copy.getProperty(0).getName(), "DeviceID");
-    EXPECT_EQ(copy.getClassName(), "VEX_StorageVolume");
-}
-
 TEST(CIMMethodParamArguments, LookUpIsExactAndIndexIsRangeChecked) {
     CIMMethodParam params;
     params.addArgument(uint16Prop("TaskPriority", 3));

@@ -165,26 +165,6 @@ TEST(CIMPropertyEquality, ViewClassKeyMatchesPrefixedStoredKey) {
     EXPECT_FALSE(stored.subclassEqualsViewclass(dateTyped)) << "types must agree";
 }
 
-TEST(CIMPropertyCopy, ReferenceCopiesTheWholePath) {
-    CIMProperty original = refKey("Dependent", volumePath("host1", "0_3"));
-    const CIMProperty copy = original;
-    original.setPropValue(CIM_REFERENCE, refKey("X", CIMObjectPath()));
-    original.setName("Changed");
-
-    EXPECT_EQ(copy.getName(), "Dependent");
-    ASSERT_EQ(copy.getObjectPathValue().size(), 1u);
-    const CIMObjectPath path = copy.getObjectPathValue().getValues()[0];
-    EXPECT_EQ(path.getHostName(), "host1");
-    EXPECT_EQ(path.getNameSpace(), "root/tkz/vex/smi_15");
-    EXPECT_EQ(path.getClassName(), "VEX_StorageVolume");
-    EXPECT_EQ(path.getKeyBindings().size(), 2u);
-    EXPECT_TRUE(original.getObjectPathValue().getValues()[0].getClassName().empty());
-
-    CIMProperty assigned;
-    assigned = copy;
-    EXPECT_TRUE(assigned.equals(copy));
-}
-
 TEST(CIMPropertyCopy, EmbeddedInstancesAreValuesToo) {
     CIMInstance item;
     item.setPath(volumePath("h", "0_1"));

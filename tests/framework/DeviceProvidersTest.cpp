@@ -72,33 +72,6 @@ TEST(DeviceProviders, RegisteredProfilesNameTheProviderProfileAndItsSubprofiles)
     EXPECT_EQ(ids.size(), 8u);
 }
 
-// Profile -> conformance -> host system -> package, and back again.
-TEST(DeviceProviders, DiscoveryWalkLeadsFromTheProfileToTheHostAndItsPackage) {
-    const CIMObjectPath profile = enumerate(kInteropNameSpace, "VEX_RegisteredProfile").at(0).getPath();
-    const std::vector<CIMInstance> hosts =
-        associated(profile, "VEX_HostComputerSystemConformsToProfile");
-    ASSERT_EQ(hosts.size(), 1u);
-    const CIMInstance& host = hosts[0];
-    EXPECT_EQ(host.getClassName(), "VEX_HostComputerSystem");
-    EXPECT_EQ(stringValueOf(host, "Name"), hostName());
-    EXPECT_EQ(stringValueOf(host, "CreationClassName"), "VEX_HostComputerSystem");
-
-    const std::vector<CIMInstance> packages =
-        associated(host.getPath(), "VEX_HostComputerSystemPackage", "Dependent");
-    ASSERT_EQ(packages.size(), 1u);
-    EXPECT_EQ(stringValueOf(packages[0], "Tag"), hostName());
-
-    const std::vector<CIMInstance> back =
-        associated(host.getPath(), "vex_hostcomputersystemconformstoprofile", "MANAGEDELEMENT");
-    ASSERT_EQ(back.size(), 1u);
-    EXPECT_EQ(back[0].getPath(), profile);
-
-    CIMObjectPath source = profile;
-    std::vector<CIMObjectPath> links;
-    startedFacade().referencesNames(source, "VEX_SubProfileRequiresProfile", "antecedent", links);
-    EXPECT_EQ(links.size(), 8u);
-}
-
 TEST(DeviceProviders, HostGetInstanceAcceptsItsKeysInAnyOrder) {
     CIMObjectPath byName("", kImplementationNameSpace, "VEX_HostComputerSystem",
                          {stringProperty("Name", hostName(), true),

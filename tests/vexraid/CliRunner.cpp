@@ -23,32 +23,6 @@ std::string slurp(const std::string& file) {
     return text.str();
 }
 
-Outcome spawn(const std::vector<std::string>& args, const std::string& dir) {
-    const std::string out = dir + "/stdout", err = dir + "/stderr";
-    posix_spawn_file_actions_t actions;
-    posix_spawn_file_actions_init(&actions);
-    posix_spawn_file_actions_addopen(&actions, STDIN_FILENO, "/dev/null", O_RDONLY, 0);
-    posix_spawn_file_actions_addopen(&actions, STDOUT_FILENO, out.c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0600);
-    posix_spawn_file_actions_addopen(&actions, STDERR_FILENO, err.c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0600);
-    std::vector<char*> argv;
-    std::string program = VEXRAID_PROGRAM;
-    argv.push_back(program.data());
-    std::vector<std::string> copies(args);
-    for (std::string& a : copies) argv.push_back(a.data());
-    argv.push_back(nullptr);
-    pid_t pid = 0;
-    Outcome run;
-    if (posix_spawn(&pid, program.c_str(), &actions, nullptr, argv.data(), environ) == 0) {
-        int status = 0;
-        waitpid(pid, &status, 0);
-        run.exitCode = WIFEXITED(status) ? WEXITSTATUS(status) : 128 + WTERMSIG(status);
-    }
-    posix_spawn_file_actions_destroy(&actions);
-    run.out = slurp(out);
-    run.err = slurp(err);
-    return run;
-}
-
 }  // namespace
 
 CliRunner::CliRunner() {
@@ -61,12 +35,43 @@ CliRunner::~CliRunner() {
     std::filesystem::remove_all(m_dir, ignored);
 }
 
-Outcome CliRunner::operator()(const std::vector<std::string>& args) const {
+std::vector<std::string> CliRunner::onSimulator(const std::vector<std::string>& args) const {
     std::vector<std::string> all = {"--system", VEX_DEMO_SYSTEM, "--state-dir", m_dir + "/state", "--time-scale", "0"};
     all.insert(all.end(), args.begin(), args.end());
-    return spawn(all, m_dir);
+    return all;
 }
 
-Outcome CliRunner::bare(const std::vector<std::string>& args) const { return spawn(args, m_dir); }
+Outcome CliRunner::operator()(const std::vector<std::string>& args) const {
+    return run(VEXRAID_PROGRAM, onSimulator(args));
+}
+
+Outcome CliRunner::bare(const std::vector<std::string>& args) const { return run(VEXRAID_PROGRAM, args); }
+
+Outcome CliRunner::run(const std::string& program, const std::vector<std::string>& args,
+                       const std::string& input) const {
+    const std::string in = m_dir + "/stdin", out = m_dir + "/stdout", err = m_dir + "/stderr";
+    std::ofstream(in, std::ios::binary) << input;
+    posix_spawn_file_actions_t actions;
+    posix_spawn_file_actions_init(&actions);
+    posix_spawn_file_actions_addopen(&actions, STDIN_FILENO, in.c_str(), O_RDONLY, 0);
+    posix_spawn_file_actions_addopen(&actions, STDOUT_FILENO, out.c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0600);
+    posix_spawn_file_actions_addopen(&actions, STDERR_FILENO, err.c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0600);
+    std::vector<std::string> copies(args);
+    std::string path = program;
+    std::vector<char*> argv = {path.data()};
+    for (std::string& a : copies) argv.push_back(a.data());
+    argv.push_back(nullptr);
+    pid_t pid = 0;
+    Outcome outcome;
+    if (posix_spawn(&pid, path.c_str(), &actions, nullptr, argv.data(), environ) == 0) {
+        int status = 0;
+        waitpid(pid, &status, 0);
+        outcome.exitCode = WIFEXITED(status) ? WEXITSTATUS(status) : 128 + WTERMSIG(status);
+    }
+    posix_spawn_file_actions_destroy(&actions);
+    outcome.out = slurp(out);
+    outcome.err = slurp(err);
+    return outcome;
+}
 
 }  // namespace vex::clitest

@@ -27,6 +27,12 @@ public:
     Outcome operator()(const std::vector<std::string>& args) const;
     // Without the simulator options (for options of its own).
     Outcome bare(const std::vector<std::string>& args) const;
+    // Any program, `input` on its standard input.
+    Outcome run(const std::string& program, const std::vector<std::string>& args,
+                const std::string& input = "") const;
+    // The simulator options above followed by `args` (storvex-sim takes them too).
+    std::vector<std::string> onSimulator(const std::vector<std::string>& args) const;
+    const std::string& dir() const { return m_dir; }
 
 private:
     std::string m_dir;

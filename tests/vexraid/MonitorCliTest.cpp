@@ -4,28 +4,19 @@
 // parser of the text format.
 #include <gtest/gtest.h>
 
-#include <fcntl.h>
-#include <spawn.h>
-#include <sys/wait.h>
-#include <unistd.h>
-
 #include <nlohmann/json.hpp>
 
 #include <filesystem>
 #include <fstream>
+#include <map>
 #include <sstream>
 
-extern char** environ;
+#include "CliRunner.h"
 
 namespace {
 
 using nlohmann::json;
-
-struct Outcome {
-    int exitCode = -1;
-    std::string out;
-    std::string err;
-};
+using vex::clitest::Outcome;
 
 std::string slurp(const std::string& file) {
     std::ifstream in(file, std::ios::binary);
@@ -38,48 +29,12 @@ std::string slurp(const std::string& file) {
 // storvex-sim; removed at the end.
 class MonitorCliTest : public ::testing::Test {
 protected:
-    MonitorCliTest() {
-        char pattern[] = "/tmp/vexraid-monitor-XXXXXX";
-        m_dir = mkdtemp(pattern);
+    Outcome run(const std::string& program, const std::vector<std::string>& args, const std::string& input = "") const {
+        return m_runner.run(program, args, input);
     }
-    ~MonitorCliTest() override {
-        std::error_code ignored;
-        std::filesystem::remove_all(m_dir, ignored);
-    }
-
-    Outcome run(const std::string& program, std::vector<std::string> args, const std::string& input = "") const {
-        const std::string in = m_dir + "/stdin", out = m_dir + "/stdout", err = m_dir + "/stderr";
-        std::ofstream(in, std::ios::binary) << input;
-        posix_spawn_file_actions_t actions;
-        posix_spawn_file_actions_init(&actions);
-        posix_spawn_file_actions_addopen(&actions, STDIN_FILENO, in.c_str(), O_RDONLY, 0);
-        posix_spawn_file_actions_addopen(&actions, STDOUT_FILENO, out.c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0600);
-        posix_spawn_file_actions_addopen(&actions, STDERR_FILENO, err.c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0600);
-        std::vector<char*> argv;
-        std::string path = program;
-        argv.push_back(path.data());
-        for (std::string& a : args) argv.push_back(a.data());
-        argv.push_back(nullptr);
-        pid_t pid = 0;
-        Outcome r;
-        if (posix_spawn(&pid, path.c_str(), &actions, nullptr, argv.data(), environ) == 0) {
-            int status = 0;
-            waitpid(pid, &status, 0);
-            r.exitCode = WIFEXITED(status) ? WEXITSTATUS(status) : 128 + WTERMSIG(status);
-        }
-        posix_spawn_file_actions_destroy(&actions);
-        r.out = slurp(out);
-        r.err = slurp(err);
-        return r;
-    }
-    std::vector<std::string> simulator(std::vector<std::string> args) const {
-        std::vector<std::string> all = {"--system", VEX_DEMO_SYSTEM, "--state-dir", m_dir + "/state", "--time-scale", "0"};
-        all.insert(all.end(), args.begin(), args.end());
-        return all;
-    }
-    Outcome vexraid(const std::vector<std::string>& args) const { return run(VEXRAID_PROGRAM, simulator(args)); }
+    Outcome vexraid(const std::vector<std::string>& args) const { return m_runner(args); }
     void inject(const std::vector<std::string>& args) const {
-        const Outcome r = run(STORVEX_SIM_PROGRAM, simulator(args));
+        const Outcome r = run(STORVEX_SIM_PROGRAM, m_runner.onSimulator(args));
         ASSERT_EQ(r.exitCode, 0) << r.err;
     }
     // The families the parser found, by name.
@@ -101,7 +56,8 @@ protected:
         return -1;
     }
 
-    std::string m_dir;
+    vex::clitest::CliRunner m_runner;
+    const std::string& m_dir = m_runner.dir();
 };
 
 TEST_F(MonitorCliTest, TheDemoSystemIsHealthy) {

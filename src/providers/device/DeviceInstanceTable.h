@@ -6,7 +6,8 @@
 
 #include <cstddef>
 
-#include "providers/device/DerivedInstancePlugin.h"
+#include "framework/DerivedInstancePlugin.h"
+#include "providers/device/CachedRecordClass.h"
 #include "providers/device/DeviceDerivations.h"
 
 namespace vex::cim::fwf {
@@ -59,7 +60,7 @@ inline constexpr DerivedInstanceRow kDeviceInstances[kDeviceInstanceCount] = {
 
 // The plug-in classes, one line each.
 template <DeviceInstanceId Id>
-using DeviceClass = DerivedClassPlugin<kDeviceInstances, Id>;
+using DeviceClass = DerivedInstancePlugin<CachedRecordClass, kDeviceInstances, Id>;
 
 class VEX_DriverSoftwareIdentity final : public DeviceClass<kDriverSoftwareIdentity> {};
 class VEX_FirmwareSoftwareIdentity final : public DeviceClass<kFirmwareSoftwareIdentity> {};

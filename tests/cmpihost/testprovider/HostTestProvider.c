@@ -75,6 +75,15 @@ static void needText(Check *c, const char *what, const char *s) {
         }                                                                   \
     } while (0)
 
+/* The handles every request carries: the MI, its context, result and path. */
+#define NEED_CALL(c, path)         \
+    do {                           \
+        needMI(&(c), mi);          \
+        need(&(c), "ctx", ctx);    \
+        need(&(c), "rslt", rslt);  \
+        need(&(c), "ref", (path)); \
+    } while (0)
+
 static const char *show(const char *s) { return s ? s : "<null>"; }
 
 static const char *chars(CMPIString *s) {
@@ -203,10 +212,7 @@ static CMPIStatus HTCleanup(CMPIInstanceMI *mi, const CMPIContext *ctx, CMPIBool
 static CMPIStatus HTEnumInstanceNames(CMPIInstanceMI *mi, const CMPIContext *ctx,
                                       const CMPIResult *rslt, const CMPIObjectPath *ref) {
     Check c = {"", 0};
-    needMI(&c, mi);
-    need(&c, "ctx", ctx);
-    need(&c, "rslt", rslt);
-    need(&c, "ref", ref);
+    NEED_CALL(c, ref);
     CHECKED(c);
     CMReturnObjectPath(rslt, allTypesPath(nameSpaceOf(ref)));
     return finish(rslt, CMPI_RC_OK, "names");
@@ -217,10 +223,7 @@ static CMPIStatus HTEnumInstances(CMPIInstanceMI *mi, const CMPIContext *ctx,
                                   const char **properties) {
     Check c = {"", 0};
     char list[128];
-    needMI(&c, mi);
-    need(&c, "ctx", ctx);
-    need(&c, "rslt", rslt);
-    need(&c, "ref", ref);
+    NEED_CALL(c, ref);
     CHECKED(c);
     listText(properties, list, sizeof list);
     CMReturnInstance(rslt, allTypes(nameSpaceOf(ref)));
@@ -237,10 +240,7 @@ static CMPIStatus HTGetInstance(CMPIInstanceMI *mi, const CMPIContext *ctx,
     CMPIObjectPath *op;
     CMPIInstance *ci;
     CMPICount i, n;
-    needMI(&c, mi);
-    need(&c, "ctx", ctx);
-    need(&c, "rslt", rslt);
-    need(&c, "ref", ref);
+    NEED_CALL(c, ref);
     CHECKED(c);
     op = CMNewObjectPath(broker, nameSpaceOf(ref), chars(CMGetClassName(ref, NULL)), NULL);
     n = CMGetKeyCount(ref, NULL);
@@ -260,10 +260,7 @@ static CMPIStatus HTCreateInstance(CMPIInstanceMI *mi, const CMPIContext *ctx,
                                    const CMPIResult *rslt, const CMPIObjectPath *ref,
                                    const CMPIInstance *inst) {
     Check c = {"", 0};
-    needMI(&c, mi);
-    need(&c, "ctx", ctx);
-    need(&c, "rslt", rslt);
-    need(&c, "ref", ref);
+    NEED_CALL(c, ref);
     need(&c, "inst", inst);
     CHECKED(c);
     CMReturnObjectPath(rslt, CMGetObjectPath(inst, NULL));
@@ -276,10 +273,7 @@ static CMPIStatus HTModifyInstance(CMPIInstanceMI *mi, const CMPIContext *ctx,
                                    const CMPIInstance *inst, const char **properties) {
     Check c = {"", 0};
     char list[128], text[192];
-    needMI(&c, mi);
-    need(&c, "ctx", ctx);
-    need(&c, "rslt", rslt);
-    need(&c, "ref", ref);
+    NEED_CALL(c, ref);
     need(&c, "inst", inst);
     CHECKED(c);
     listText(properties, list, sizeof list);
@@ -290,10 +284,7 @@ static CMPIStatus HTModifyInstance(CMPIInstanceMI *mi, const CMPIContext *ctx,
 static CMPIStatus HTDeleteInstance(CMPIInstanceMI *mi, const CMPIContext *ctx,
                                    const CMPIResult *rslt, const CMPIObjectPath *ref) {
     Check c = {"", 0};
-    needMI(&c, mi);
-    need(&c, "ctx", ctx);
-    need(&c, "rslt", rslt);
-    need(&c, "ref", ref);
+    NEED_CALL(c, ref);
     CHECKED(c);
     CMReturnWithString(CMPI_RC_ERR_NOT_FOUND, CMObjectPathToString(ref, NULL));
 }
@@ -301,10 +292,7 @@ static CMPIStatus HTDeleteInstance(CMPIInstanceMI *mi, const CMPIContext *ctx,
 static CMPIStatus HTExecQuery(CMPIInstanceMI *mi, const CMPIContext *ctx, const CMPIResult *rslt,
                               const CMPIObjectPath *ref, const char *query, const char *lang) {
     Check c = {"", 0};
-    needMI(&c, mi);
-    need(&c, "ctx", ctx);
-    need(&c, "rslt", rslt);
-    need(&c, "ref", ref);
+    NEED_CALL(c, ref);
     needText(&c, "query", query);
     needText(&c, "lang", lang);
     CHECKED(c);
@@ -339,11 +327,8 @@ static CMPIStatus echoInstance(const CMPIResult *rslt, CMPIObjectPath *op, const
     return finish(rslt, CMPI_RC_OK, "assoc");
 }
 
-#define CHECK_ASSOC(c)        \
-    needMI(&(c), mi);         \
-    need(&(c), "ctx", ctx);   \
-    need(&(c), "rslt", rslt); \
-    need(&(c), "ref", op);    \
+#define CHECK_ASSOC(c) \
+    NEED_CALL(c, op);  \
     CHECKED(c)
 
 static CMPIStatus HTAssociationCleanup(CMPIAssociationMI *mi, const CMPIContext *ctx,
@@ -593,10 +578,7 @@ static CMPIStatus HTInvokeMethod(CMPIMethodMI *mi, const CMPIContext *ctx, const
                                  const CMPIObjectPath *ref, const char *method,
                                  const CMPIArgs *in, CMPIArgs *out) {
     Check c = {"", 0};
-    needMI(&c, mi);
-    need(&c, "ctx", ctx);
-    need(&c, "rslt", rslt);
-    need(&c, "ref", ref);
+    NEED_CALL(c, ref);
     needText(&c, "method", method);
     need(&c, "in", in);
     need(&c, "out", out);
@@ -636,6 +618,16 @@ static CMPIStatus HTInvokeMethod(CMPIMethodMI *mi, const CMPIContext *ctx, const
 /* Indication MI                                                      */
 /* ------------------------------------------------------------------ */
 
+/* The handles and names every filter request carries. */
+#define NEED_FILTER(c)                         \
+    do {                                       \
+        needMI(&(c), mi);                      \
+        need(&(c), "ctx", ctx);                \
+        need(&(c), "filter", filter);          \
+        needText(&(c), "class", className);    \
+        need(&(c), "ref", op);                 \
+    } while (0)
+
 static CMPIStatus filterText(const CMPISelectExp *filter, const char *what, const char *cls,
                              const char *extra) {
     char text[256];
@@ -651,11 +643,7 @@ static CMPIStatus HTAuthorizeFilter(CMPIIndicationMI *mi, const CMPIContext *ctx
                                     const CMPISelectExp *filter, const char *className,
                                     const CMPIObjectPath *op, const char *owner) {
     Check c = {"", 0};
-    needMI(&c, mi);
-    need(&c, "ctx", ctx);
-    need(&c, "filter", filter);
-    needText(&c, "class", className);
-    need(&c, "ref", op);
+    NEED_FILTER(c);
     needText(&c, "owner", owner);
     CHECKED(c);
     return filterText(filter, "authorize", className, owner);
@@ -665,11 +653,7 @@ static CMPIStatus HTMustPoll(CMPIIndicationMI *mi, const CMPIContext *ctx,
                              const CMPISelectExp *filter, const char *className,
                              const CMPIObjectPath *op) {
     Check c = {"", 0};
-    needMI(&c, mi);
-    need(&c, "ctx", ctx);
-    need(&c, "filter", filter);
-    needText(&c, "class", className);
-    need(&c, "ref", op);
+    NEED_FILTER(c);
     CHECKED(c);
     return filterText(filter, "poll", className, "");
 }
@@ -678,11 +662,7 @@ static CMPIStatus HTActivateFilter(CMPIIndicationMI *mi, const CMPIContext *ctx,
                                    const CMPISelectExp *filter, const char *className,
                                    const CMPIObjectPath *op, CMPIBoolean first) {
     Check c = {"", 0};
-    needMI(&c, mi);
-    need(&c, "ctx", ctx);
-    need(&c, "filter", filter);
-    needText(&c, "class", className);
-    need(&c, "ref", op);
+    NEED_FILTER(c);
     CHECKED(c);
     return filterText(filter, "activate", className, first ? "first" : "more");
 }
@@ -691,11 +671,7 @@ static CMPIStatus HTDeActivateFilter(CMPIIndicationMI *mi, const CMPIContext *ct
                                      const CMPISelectExp *filter, const char *className,
                                      const CMPIObjectPath *op, CMPIBoolean last) {
     Check c = {"", 0};
-    needMI(&c, mi);
-    need(&c, "ctx", ctx);
-    need(&c, "filter", filter);
-    needText(&c, "class", className);
-    need(&c, "ref", op);
+    NEED_FILTER(c);
     CHECKED(c);
     return filterText(filter, "deactivate", className, last ? "last" : "more");
 }

@@ -3,23 +3,27 @@
 #ifndef VEX_PROVIDERS_STORAGE_MODEL_STORAGEMODELCLASSES_H
 #define VEX_PROVIDERS_STORAGE_MODEL_STORAGEMODELCLASSES_H
 
-#include "providers/storage/model/DerivedInstancePlugin.h"
+#include "framework/DerivedInstancePlugin.h"
+#include "providers/storage/model/ComputedModelClass.h"
 
 namespace vex::cim::fwf::storage {
 
+template <DerivedClassId Id>
+using ModelClass = DerivedInstancePlugin<ComputedModelBase<Id>, kDerivedClasses, Id>;
+
 // clang-format off
-class VEX_PrimordialStoragePool final : public DerivedInstancePlugin<kPrimordialStoragePool> {};
-class VEX_PrimordialStoragePoolView final : public DerivedInstancePlugin<kPrimordialStoragePoolView> {};
-class VEX_ConcreteStorageExtent final : public DerivedInstancePlugin<kConcreteStorageExtent> {};
-class VEX_RemainingStorageExtent final : public DerivedInstancePlugin<kRemainingStorageExtent> {};
-class VEX_CompositeExtent final : public DerivedInstancePlugin<kCompositeExtent> {};
-class VEX_PrimordialStoragePoolCapabilities final : public DerivedInstancePlugin<kPrimordialStoragePoolCapabilities> {};
-class VEX_ConcreteStoragePoolCapabilities final : public DerivedInstancePlugin<kConcreteStoragePoolCapabilities> {};
-class VEX_ConcreteFixedStorageSettings final : public DerivedInstancePlugin<kConcreteFixedStorageSettings> {};
-class VEX_VolumeStorageSetting final : public DerivedInstancePlugin<kVolumeStorageSetting> {};
-class VEX_DedicatedStorageRedundancySet final : public DerivedInstancePlugin<kDedicatedStorageRedundancySet> {};
-class VEX_GlobalStorageRedundancySet final : public DerivedInstancePlugin<kGlobalStorageRedundancySet> {};
-class VEX_FailOverStorageExtentsCollection final : public DerivedInstancePlugin<kFailOverStorageExtentsCollection> {};
+class VEX_PrimordialStoragePool final : public ModelClass<kPrimordialStoragePool> {};
+class VEX_PrimordialStoragePoolView final : public ModelClass<kPrimordialStoragePoolView> {};
+class VEX_ConcreteStorageExtent final : public ModelClass<kConcreteStorageExtent> {};
+class VEX_RemainingStorageExtent final : public ModelClass<kRemainingStorageExtent> {};
+class VEX_CompositeExtent final : public ModelClass<kCompositeExtent> {};
+class VEX_PrimordialStoragePoolCapabilities final : public ModelClass<kPrimordialStoragePoolCapabilities> {};
+class VEX_ConcreteStoragePoolCapabilities final : public ModelClass<kConcreteStoragePoolCapabilities> {};
+class VEX_ConcreteFixedStorageSettings final : public ModelClass<kConcreteFixedStorageSettings> {};
+class VEX_VolumeStorageSetting final : public ModelClass<kVolumeStorageSetting> {};
+class VEX_DedicatedStorageRedundancySet final : public ModelClass<kDedicatedStorageRedundancySet> {};
+class VEX_GlobalStorageRedundancySet final : public ModelClass<kGlobalStorageRedundancySet> {};
+class VEX_FailOverStorageExtentsCollection final : public ModelClass<kFailOverStorageExtentsCollection> {};
 // clang-format on
 
 }  // namespace vex::cim::fwf::storage

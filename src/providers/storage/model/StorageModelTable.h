@@ -1,7 +1,7 @@
 // The storage model classes computed from the object cache, as one table.
 // Each row is one CIM class and the function that builds all its instances
 // from the cache records (StorageLayout.h); the plug-in classes are one line
-// each over the template of DerivedInstancePlugin.h.
+// each over the template of framework/DerivedInstancePlugin.h.
 #ifndef VEX_PROVIDERS_STORAGE_MODEL_STORAGEMODELTABLE_H
 #define VEX_PROVIDERS_STORAGE_MODEL_STORAGEMODELTABLE_H
 

@@ -1,4 +1,4 @@
-#include "providers/device/DerivedInstancePlugin.h"
+#include "providers/device/CachedRecordClass.h"
 
 #include <algorithm>
 #include <cctype>
@@ -47,8 +47,8 @@ bool hasKeys(const CIMInstance& instance, const std::vector<CIMProperty>& wanted
 
 }  // namespace
 
-void DerivedInstancePlugin::enumerateInstances(CIMObjectPath& classPath, std::vector<CIMInstance>& out,
-                                               bool flag) {
+void CachedRecordClass::enumerateInstances(CIMObjectPath& classPath, std::vector<CIMInstance>& out,
+                                           bool flag) {
     TkzTrace("Entering DerivedInstancePlugin :: enumerateInstances()");
     std::vector<CIMInstance> records;
     AbstractCachedInstanceProviderPlugin::enumerateInstances(classPath, records, flag);
@@ -63,8 +63,7 @@ void DerivedInstancePlugin::enumerateInstances(CIMObjectPath& classPath, std::ve
     TkzTrace("Exiting DerivedInstancePlugin :: enumerateInstances()");
 }
 
-void DerivedInstancePlugin::enumerateInstanceNames(CIMObjectPath& classPath,
-                                                   std::vector<CIMObjectPath>& out) {
+void CachedRecordClass::enumerateInstanceNames(CIMObjectPath& classPath, std::vector<CIMObjectPath>& out) {
     std::vector<CIMInstance> instances;
     enumerateInstances(classPath, instances, false);
     out.reserve(out.size() + instances.size());
@@ -73,7 +72,7 @@ void DerivedInstancePlugin::enumerateInstanceNames(CIMObjectPath& classPath,
     }
 }
 
-void DerivedInstancePlugin::getCIMInstance(CIMObjectPath& path, std::vector<CIMInstance>& out) {
+void CachedRecordClass::getCIMInstance(CIMObjectPath& path, std::vector<CIMInstance>& out) {
     TkzTrace("Entering DerivedInstancePlugin :: getCIMInstance()");
     const std::vector<CIMProperty> wanted = path.getKeyBindings();
     std::vector<CIMInstance> found;
@@ -91,7 +90,7 @@ void DerivedInstancePlugin::getCIMInstance(CIMObjectPath& path, std::vector<CIMI
     TkzTrace("Exiting DerivedInstancePlugin :: getCIMInstance()");
 }
 
-void DerivedInstancePlugin::modifyInstance(CIMObjectPath&, CIMInstance&, std::vector<std::string>&) {
+void CachedRecordClass::modifyInstance(CIMObjectPath&, CIMInstance&, std::vector<std::string>&) {
     throwNotSupported("modifyInstance");
 }
 

@@ -1,6 +1,6 @@
-// DerivedInstancePlugin: the base of the device classes computed from the
-// records of one object-cache type: the software, endpoints and settings of
-// a controller, the package, firmware, ports and endpoints of a drive, the
+// CachedRecordClass: the derivation base of the device classes computed from
+// the records of one object-cache type: the software, endpoints and settings
+// of a controller, the package, firmware, ports and endpoints of a drive, the
 // fans, power supplies, sensors and slots of an enclosure. The cache keeps
 // these only as parts of a bigger record (a controller, a drive, an
 // enclosure services element); a row of data names the record type and the
@@ -9,11 +9,10 @@
 // Reads only: a get compares the request's keys with those of the derived
 // instances (unknown, missing or foreign keys find nothing); modifications
 // are refused, since the controller takes no changes through these classes.
-// A family member is one line: a class deriving from DerivedClassPlugin<rows, index>.
-#ifndef VEX_PROVIDERS_DEVICE_DERIVEDINSTANCEPLUGIN_H
-#define VEX_PROVIDERS_DEVICE_DERIVEDINSTANCEPLUGIN_H
+// A family member is one line over framework/DerivedInstancePlugin.h.
+#ifndef VEX_PROVIDERS_DEVICE_CACHEDRECORDCLASS_H
+#define VEX_PROVIDERS_DEVICE_CACHEDRECORDCLASS_H
 
-#include <cstddef>
 #include <string>
 #include <vector>
 
@@ -31,9 +30,9 @@ struct DerivedInstanceRow {
     DeriveFn derive;
 };
 
-class DerivedInstancePlugin : public AbstractCachedInstanceProviderPlugin {
+class CachedRecordClass : public AbstractCachedInstanceProviderPlugin {
 public:
-    explicit DerivedInstancePlugin(const DerivedInstanceRow& row) : m_row(row) {}
+    explicit CachedRecordClass(const DerivedInstanceRow& row) : m_row(row) {}
 
     _eVEXObjectType getViewClass() override { return m_row.source; }
     std::string getClassPrefix() override { return std::string(); }
@@ -49,12 +48,6 @@ public:
 
 private:
     const DerivedInstanceRow& m_row;
-};
-
-template <const DerivedInstanceRow* Rows, std::size_t Index>
-class DerivedClassPlugin : public DerivedInstancePlugin {
-public:
-    DerivedClassPlugin() : DerivedInstancePlugin(Rows[Index]) {}
 };
 
 }  // namespace vex::cim::fwf

@@ -1,8 +1,9 @@
-#include "providers/storage/model/DerivedInstancePlugin.h"
+#include "providers/storage/model/ComputedModelClass.h"
 
 #include <exception>
 
 #include "framework/CIMException.h"
+#include "providers/storage/ControllerMethod.h"
 #include "platform/Tkz.h"
 
 namespace vex::cim::fwf::storage {
@@ -37,6 +38,17 @@ void selectNamed(const CIMObjectPath& path, std::vector<CIMInstance>& all, std::
             out.push_back(std::move(instance));
         }
     }
+}
+
+void ComputedModelClass::getRepositoryObjects(CIMObjectPath& path, std::vector<CIMInstance>& out) {
+    std::vector<CIMInstance> all;
+    buildInstances(path, all);
+    selectNamed(path, all, out);
+}
+
+unsigned int ComputedModelClassWithMethods::invokeMethod(const CIMObjectPath& path, const std::string& methodName,
+                                                         const CIMMethodParam& in, CIMMethodParam& out) {
+    return invokeControllerRoutine(path, methodName, in, out);
 }
 
 }  // namespace vex::cim::fwf::storage
