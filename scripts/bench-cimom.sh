@@ -14,11 +14,8 @@ repo=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 build=$(cd "${1:-$repo/build}" && pwd)
 say() { echo "bench-cimom: $*" >&2; }
 
-shared=""
-for d in "${VEX_SHARED_DIR:-}" "$repo/../shared" \
-         "$(git -C "$repo" rev-parse --path-format=absolute --git-common-dir 2>/dev/null)/../../shared"; do
-    [[ -n $d && -x $d/cimom/sfcb-up ]] && { shared=$(cd "$d" && pwd); break; }
-done
+source "$repo/scripts/shared-dir.sh"
+shared=$(shared_dir "$repo" cimom || true)
 if [[ -z $shared ]]; then
     echo "bench-cimom: SKIPPED: no prebuilt sfcb (../shared/cimom beside the repository)"
     exit 0

@@ -22,14 +22,8 @@ say() { echo "cimom-test[$cimom]: $*" >&2; }
 
 # The shared directory: beside the repository, or beside the main checkout of
 # a git worktree.
-shared_dir() {
-    local d
-    for d in "${VEX_SHARED_DIR:-}" "$repo/../shared" \
-             "$(git -C "$repo" rev-parse --path-format=absolute --git-common-dir 2>/dev/null)/../../shared"; do
-        [[ -n $d && -d $d/cimom && -d $d/pegasus ]] && { (cd "$d" && pwd); return; }
-    done
-}
-shared=$(shared_dir || true)
+source "$repo/scripts/shared-dir.sh"
+shared=$(shared_dir "$repo" cimom pegasus || true)
 if [[ -z $shared ]]; then
     echo "cimom-test: SKIPPED: no prebuilt object managers (../shared/cimom and ../shared/pegasus beside the repository)"
     exit 0
