@@ -13,6 +13,7 @@ bool hasPrefix(const std::string& name, const std::string& prefix) {
 bool buildViewInstance(const CachedInstance& stored, const std::string& prefix, bool viewKeysOnly,
                        CIMInstance& built) {
     bool seen = false;
+    built.reserveProperties(stored.properties().size());
     for (const CIMProperty& property : stored.properties()) {
         if (!hasPrefix(property.getName(), prefix)) {
             continue;
@@ -21,9 +22,8 @@ bool buildViewInstance(const CachedInstance& stored, const std::string& prefix, 
         if (viewKeysOnly && !property.isViewKey()) {
             continue;
         }
-        // Each property is copied once and renamed in place.
-        CIMProperty renamed(property);
-        renamed.setName(property.getName().substr(prefix.size()));
+        // Each property is copied once, under its name without the prefix.
+        CIMProperty renamed(property, property.getName().substr(prefix.size()));
         if (renamed.isViewKey()) {
             built.addCimKeyBinding(std::move(renamed));
         } else {

@@ -22,6 +22,8 @@ public:
     // A new path from host, namespace, class name and a copy of the keys.
     CIMObjectPath getPath() const;
 
+    // Room for that many properties (and as many keys at most).
+    void reserveProperties(std::size_t count) { m_properties.reserve(count); }
     // Appends to the properties only.
     void addProperty(CIMProperty property);
     // Appends to the properties and to the keys.

@@ -34,6 +34,9 @@ CIMProperty::CIMProperty(std::string name, CIMValue<T> value, bool isKey, Primit
 }
 
 CIMProperty::CIMProperty(const CIMProperty& other) = default;
+CIMProperty::CIMProperty(const CIMProperty& other, std::string name)
+    : m_name(std::move(name)), m_type(other.m_type), m_isKey(other.m_isKey),
+      m_isViewKey(other.m_isViewKey), m_slots(other.m_slots) {}
 CIMProperty::CIMProperty(CIMProperty&& other) noexcept = default;
 CIMProperty& CIMProperty::operator=(const CIMProperty& other) = default;
 CIMProperty& CIMProperty::operator=(CIMProperty&& other) noexcept = default;

@@ -35,6 +35,8 @@ public:
                 bool isViewKey);
 
     CIMProperty(const CIMProperty& other);
+    // A copy of other under another name.
+    CIMProperty(const CIMProperty& other, std::string name);
     CIMProperty(CIMProperty&& other) noexcept;
     CIMProperty& operator=(const CIMProperty& other);
     CIMProperty& operator=(CIMProperty&& other) noexcept;
