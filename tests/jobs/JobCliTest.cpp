@@ -31,9 +31,10 @@ TEST(JobCliTest, AbortsAndReprioritisesTheVerifyAndFollowsItToItsEnd) {
     EXPECT_EQ(outcome[0]["InstanceID"], "0_1");
     EXPECT_EQ(outcome[0]["JobStatus"], "aborted");
     EXPECT_LT(outcome[0]["PercentComplete"].get<unsigned>(), 100u);
-    // Ended jobs are not running ones.
+    // Ended jobs are not running ones, nor in the summary.
     r = vexraid({"job"});
     EXPECT_EQ(r.out, "no running jobs\n");
+    EXPECT_NE(vexraid({"summary"}).out.find("Jobs (0)"), std::string::npos);
 
     // An ended job takes no further change.
     r = vexraid({"job", kVerify, "--abort"});

@@ -37,13 +37,6 @@ unsigned numberOf(const Instance& job, const char* property) {
 
 unsigned percentOf(const Instance& job) { return numberOf(job, "PercentComplete"); }
 
-// JobState 7 Completed, 8 Terminated, 9 Killed, 10 Exception; a job without
-// a JobState counts as running while it is listed.
-bool hasEnded(const Instance& job) {
-    const unsigned state = numberOf(job, "JobState");
-    return state >= 7 && state <= 10;
-}
-
 std::string labelOf(const Instance& job) {
     return text(job, "InstanceID") + "  " + text(job, "Name") + "  " + text(job, "DeviceTypeAndID");
 }
@@ -79,6 +72,11 @@ bool expired(Clock::time_point start, double seconds) {
 }
 
 }  // namespace
+
+bool hasEnded(const Instance& job) {
+    const unsigned state = numberOf(job, "JobState");
+    return state >= 7 && state <= 10;
+}
 
 std::vector<ObjectPath> runningJobs(Session& session) {
     const auto r = session.host().enumerateInstances(ObjectPath(vex::mof::kImplementationNamespace, kJobClass));

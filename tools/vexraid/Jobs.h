@@ -30,6 +30,10 @@ struct JobOutcome {
     unsigned percent = 0;
 };
 
+// JobState 7 Completed, 8 Terminated, 9 Killed, 10 Exception; a job without
+// a JobState counts as running while it is listed.
+bool hasEnded(const cmpihost::Instance& job);
+
 // The paths of the jobs running now (not those that have ended).
 std::vector<cmpihost::ObjectPath> runningJobs(Session& session);
 

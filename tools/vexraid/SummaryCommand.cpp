@@ -4,6 +4,7 @@
 #include "Gathered.h"
 #include "JsonText.h"
 #include "RegistrationPlan.h"
+#include "Jobs.h"
 #include "Summary.h"
 
 namespace vexraid {
@@ -25,7 +26,11 @@ int summary(Session& session, Printer& printer) {
     source.pools = all(session, gathered, "VEX_ConcreteStoragePoolView");
     source.settings = all(session, gathered, "VEX_PrimordialFixedStorageSettings");
     source.volumes = all(session, gathered, "VEX_StorageVolumeView");
-    source.jobs = all(session, gathered, "VEX_ConcreteJob");
+    // Ended jobs stay listed for a while after their task; the summary shows
+    // the running ones.
+    for (cmpihost::Instance& job : all(session, gathered, "VEX_ConcreteJob")) {
+        if (!hasEnded(job)) source.jobs.push_back(std::move(job));
+    }
     const std::vector<SummarySection> sections = summarize(source);
     printer.out() << (printer.json() ? jsonText(summaryJson(sections), true) + "\n" : summaryText(sections));
     return gathered.exitCode();
