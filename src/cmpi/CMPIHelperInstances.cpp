@@ -43,7 +43,7 @@ void writeProperty(const fwf::CIMProperty& property, CMPIInstance* ci, const CMP
     writeValue(property, broker, kToCmpi, [ci, name](const CMPIValue* value, CMPIType type) {
         return ci->ft->setProperty != nullptr &&
                calls::ok(ci->ft->setProperty(ci, name, value, type));
-    });
+    }, Text::Chars);
 }
 
 // A string key of the instance's path with the same value as the property

@@ -87,7 +87,7 @@ void writeKeys(const std::vector<fwf::CIMProperty>& keys, CMPIObjectPath* op, co
         writeValue(key, broker, "FrameworkObjectPathToCMPIObjectPath",
                    [op, &name](const CMPIValue* value, CMPIType type) {
                        return addKey(op, name, value, type);
-                   });
+                   }, Text::Chars);
     }
 }
 

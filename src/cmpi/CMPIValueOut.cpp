@@ -124,20 +124,22 @@ bool sendText(const std::string& text, const ValueSink& sink) {
 
 template <typename T>
 void writeAs(const CIMProperty& property, const CMPIBroker* broker, const char* function,
-             const ValueSink& sink, CMPIType elementType) {
+             const ValueSink& sink, CMPIType elementType, Text text = Text::Objects) {
     const std::size_t count = property.elementCount<T>();
     if (!fwf::isArrayType(property.getType())) {
         if (count == 0) {
             mismatch(function, property);
         }
         if constexpr (std::is_same_v<T, std::string>) {
-            if (!sendText(property.elementAt<T>(0), sink)) {
-                failed();
+            if (text == Text::Chars) {
+                if (!sendText(property.elementAt<T>(0), sink)) {
+                    failed();
+                }
+                return;
             }
-        } else {
-            Encoded e = encode(property.elementAt<T>(0), broker);
-            send(sink, &e.value, e.type);
         }
+        Encoded e = encode(property.elementAt<T>(0), broker);
+        send(sink, &e.value, e.type);
         return;
     }
     std::vector<Encoded> elements;
@@ -149,19 +151,19 @@ void writeAs(const CIMProperty& property, const CMPIBroker* broker, const char* 
 }
 
 void writeDateTime(const CIMProperty& property, const CMPIBroker* broker, const char* function,
-                   const ValueSink& sink) {
+                   const ValueSink& sink, Text text) {
     const std::vector<std::string> values = property.getStringValue().getValues();
     bool array = fwf::isArrayType(property.getType());
     if (!array && values.empty()) {
         mismatch(function, property);
     }
     std::vector<Encoded> elements;
-    for (const std::string& text : values) {
+    for (const std::string& value : values) {
         Encoded e = encoded(CMPI_dateTime);
-        e.value.dateTime = toDateTime(text, broker);
+        e.value.dateTime = toDateTime(value, broker);
         if (e.value.dateTime == nullptr) {
             // Not a datetime the broker accepts: send the text as it is.
-            writeAs<std::string>(property, broker, function, sink, CMPI_string);
+            writeAs<std::string>(property, broker, function, sink, CMPI_string, text);
             return;
         }
         elements.push_back(e);
@@ -212,7 +214,7 @@ bool isWritableArgumentType(Primitive_DataType type) {
     }
 }
 
-void writeValue(const CIMProperty& p, const CMPIBroker* b, const char* f, const ValueSink& s) {
+void writeValue(const CIMProperty& p, const CMPIBroker* b, const char* f, const ValueSink& s, Text t) {
     switch (scalarOf(p.getType())) {
         case fwf::CIM_BOOLEAN: return writeAs<bool>(p, b, f, s, CMPI_boolean);
         case fwf::CIM_UINT8: return writeAs<unsigned char>(p, b, f, s, CMPI_uint8);
@@ -223,8 +225,8 @@ void writeValue(const CIMProperty& p, const CMPIBroker* b, const char* f, const 
         case fwf::CIM_SINT16: return writeAs<short>(p, b, f, s, CMPI_sint16);
         case fwf::CIM_SINT32: return writeAs<int>(p, b, f, s, CMPI_sint32);
         case fwf::CIM_SINT64: return writeAs<long long>(p, b, f, s, CMPI_sint64);
-        case fwf::CIM_STRING: return writeAs<std::string>(p, b, f, s, CMPI_string);
-        case fwf::CIM_DATETIME: return writeDateTime(p, b, f, s);
+        case fwf::CIM_STRING: return writeAs<std::string>(p, b, f, s, CMPI_string, t);
+        case fwf::CIM_DATETIME: return writeDateTime(p, b, f, s, t);
         case fwf::CIM_REFERENCE: return writeAs<fwf::CIMObjectPath>(p, b, f, s, CMPI_ref);
         case fwf::CIM_INSTANCE: return writeAs<fwf::CIMInstance>(p, b, f, s, CMPI_instance);
         default: throw fwf::CIMException(fwf::CIM_ERR_NOT_SUPPORTED, " :: Not supported");

@@ -40,8 +40,12 @@ bool isWritableArgumentType(fwf::Primitive_DataType type);
 // type) is logged as a type mismatch naming `function` and thrown as
 // CIMException 1 " :: Operation Failed"; so is a refused sink or a broker
 // that cannot make the value.
+// Scalar strings go to instances and path keys as CMPI_chars (the broker
+// copies the characters; no string object is made), to method arguments as
+// CMPI_string objects.
+enum class Text { Chars, Objects };
 void writeValue(const fwf::CIMProperty& property, const CMPIBroker* broker, const char* function,
-                const ValueSink& sink);
+                const ValueSink& sink, Text text = Text::Objects);
 
 }  // namespace vex::cim::adap::cmpi
 
