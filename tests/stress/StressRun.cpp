@@ -128,6 +128,7 @@ int main(int argc, char** argv) {
     vex::stress::Latencies latencies;
 
     std::atomic<bool> stop{false}, torn{false};
+    std::atomic<unsigned> running{settings.threads};
     std::vector<Worker> workers(settings.threads);
     std::vector<std::thread> threads;
     const Clock::time_point start = Clock::now();
@@ -150,14 +151,18 @@ int main(int argc, char** argv) {
                 workers[t].busySince = 0;
                 latencies.record(vex::stress::Workload::kindName(kind), since(begun));
             }
+            --running;
         });
     }
     threads.emplace_back(injectFaults, std::cref(stop));
 
     const double warmUp = std::min(60.0, settings.seconds / 6);
     double warmResident = 0;
-    while (!stop && since(start) < settings.seconds) {
+    // The watchdog also watches the request threads finish their last
+    // requests after the end: a deadlocked one never does.
+    while (running > 0) {
         std::this_thread::sleep_for(std::chrono::milliseconds(250));
+        if (since(start) >= settings.seconds) stop = true;
         if (warmResident == 0 && since(start) >= warmUp) warmResident = residentMb();
         for (unsigned t = 0; t < settings.threads; ++t) {
             const long long busy = workers[t].busySince;
