@@ -24,11 +24,22 @@ void InstanceHandle::reset() {
 }
 
 CMPIInstance* InstanceFactory::emptyInstance(const std::string& nameSpace, const std::string& className) {
+    // Answers are mostly of one class: the last one is found without a key.
+    if (m_last != nullptr && m_lastClass == className && m_lastNameSpace == nameSpace) {
+        return m_last->second;
+    }
     const std::string key = nameSpace + ':' + className;
     auto found = m_empty.find(key);
-    if (found != m_empty.end()) {
-        return found->second;
+    if (found == m_empty.end()) {
+        found = m_empty.emplace(key, makeEmpty(nameSpace, className)).first;
     }
+    m_last = &*found;
+    m_lastNameSpace = nameSpace;
+    m_lastClass = className;
+    return found->second;
+}
+
+CMPIInstance* InstanceFactory::makeEmpty(const std::string& nameSpace, const std::string& className) const {
     CMPIInstance* empty = nullptr;
     CMPIObjectPath* classPath = calls::newObjectPath(m_broker, nameSpace.c_str(), className.c_str());
     if (classPath != nullptr) {
@@ -37,7 +48,6 @@ CMPIInstance* InstanceFactory::emptyInstance(const std::string& nameSpace, const
     if (empty != nullptr && (empty->ft == nullptr || empty->ft->clone == nullptr || empty->ft->setObjectPath == nullptr)) {
         empty = nullptr;
     }
-    m_empty.emplace(key, empty);
     return empty;
 }
 

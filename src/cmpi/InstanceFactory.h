@@ -49,6 +49,8 @@ enum class PathKeys { Unknown, SetByBroker, Apart };
 class InstanceFactory {
 public:
     explicit InstanceFactory(const CMPIBroker* broker) : m_broker(broker) {}
+    InstanceFactory(const InstanceFactory&) = delete;
+    InstanceFactory& operator=(const InstanceFactory&) = delete;
 
     // A new instance with the path op (namespace, class and keys), no other
     // property set; empty when the broker can make none.
@@ -62,9 +64,13 @@ private:
     // The empty instance of a class, or null when instances of the class
     // are made one by one.
     CMPIInstance* emptyInstance(const std::string& nameSpace, const std::string& className);
+    CMPIInstance* makeEmpty(const std::string& nameSpace, const std::string& className) const;
 
     const CMPIBroker* m_broker;
     std::unordered_map<std::string, CMPIInstance*> m_empty;  // by "namespace:class"
+    const std::pair<const std::string, CMPIInstance*>* m_last = nullptr;  // stable: a map node
+    std::string m_lastNameSpace;
+    std::string m_lastClass;
     PathKeys m_pathKeys = PathKeys::Unknown;
 };
 
